@@ -1,0 +1,125 @@
+/// @file
+/// Text functions over C strings and single characters.
+#ifndef QEL_CHARFUNCTIONS_H
+#define QEL_CHARFUNCTIONS_H
+
+#include <string>
+
+namespace qel {
+
+/// Text functions: classification, case, search and comparison.
+///
+/// All text is 8-bit. Letters, digits and case are ASCII only; bytes 128 to 255 are neither
+/// letters nor digits and have no case. A null pointer is checked only where a function says so;
+/// elsewhere it is the caller's fault and the call need not return. Every function is reentrant.
+class CharFunctions {
+  public:
+    CharFunctions() = delete;
+
+    /// @name One character
+    /// @{
+
+    /// True for `0` to `9`.
+    [[nodiscard]] static bool IsDigit(char c) noexcept;
+    /// True for `a` to `z` and `A` to `Z`.
+    [[nodiscard]] static bool IsLetter(char c) noexcept;
+    /// True for ASCII letters and digits.
+    [[nodiscard]] static bool IsLetterOrDigit(char c) noexcept;
+    /// True for `a` to `z`.
+    [[nodiscard]] static bool IsLowerCase(char c) noexcept;
+    /// True for `A` to `Z`.
+    [[nodiscard]] static bool IsUpperCase(char c) noexcept;
+    /// The upper-case form of `a` to `z`; any other byte unchanged.
+    [[nodiscard]] static char ToUpperCase(char c) noexcept;
+    /// The lower-case form of `A` to `Z`; any other byte unchanged.
+    [[nodiscard]] static char ToLowerCase(char c) noexcept;
+    /// The value of a hexadecimal digit of either case, 0 to 15; -1 for anything else.
+    [[nodiscard]] static int GetHexDigitValue(char c) noexcept;
+    /// The byte that two hexadecimal digits write, 0 to 255; -1 if either is not such a digit.
+    [[nodiscard]] static int HexaToInt(char high, char low) noexcept;
+
+    /// @}
+    /// @name Whole strings
+    /// @{
+
+    /// True when `s` has no bytes. `s` must not be null.
+    [[nodiscard]] static bool IsEmpty(char const* s) noexcept;
+    /// The number of bytes before the terminator. `s` must not be null.
+    [[nodiscard]] static unsigned int Length(char const* s) noexcept;
+    /// True when the first byte is `0` to `9`; false for null.
+    [[nodiscard]] static bool StartsWithDigit(char const* s) noexcept;
+    /// True when some byte is 128 or above. `s` must not be null.
+    [[nodiscard]] static bool ContainsExtendedAsciiCharacters(char const* s) noexcept;
+    /// How many bytes of `s` equal `c`; 0 for null. The terminator never counts.
+    [[nodiscard]] static unsigned int CountOccurence(char const* s, char c) noexcept;
+    /// True when `s` is exactly one of True, true, TRUE, False, false, FALSE, 0 and 1.
+    /// `s` must not be null.
+    [[nodiscard]] static bool IsBoolean(char const* s) noexcept;
+    /// A copy with `a` to `z` in upper case. `s` must not be null.
+    [[nodiscard]] static std::string ToUpperCase(char const* s) noexcept;
+    /// A copy with `A` to `Z` in lower case. `s` must not be null.
+    [[nodiscard]] static std::string ToLowerCase(char const* s) noexcept;
+
+    /// @}
+    /// @name Search
+    /// The subject `s` must not be null.
+    /// @{
+
+    /// Searches for any one character of `set`, not for `set` as a word.
+    /// @return the position of the first byte of `s` that occurs in `set`; -1 when there is none.
+    [[nodiscard]] static int IndexOfFirstOccurence(char const* s, char const* set) noexcept;
+    /// Searches for any one character of `set`, not for `set` as a word.
+    /// @return the position of the last byte of `s` that occurs in `set`; -1 when there is none.
+    [[nodiscard]] static int IndexOfLastOccurence(char const* s, char const* set) noexcept;
+    /// True when `part` occurs in `s` as a substring; false for a null or empty `part`.
+    [[nodiscard]] static bool Contains(char const* s, char const* part) noexcept;
+    /// True when `s` begins with `prefix`, which every text does with the empty one;
+    /// false for a null `prefix`.
+    [[nodiscard]] static bool StartsWith(char const* s, char const* prefix) noexcept;
+    /// The suffix is a set of characters: true when the last byte of `s` is any one of them.
+    ///
+    /// For a suffix of one character this is the usual test. `EndsWith("abc", "cb")` is true. An
+    /// empty `s` ends with every suffix, a non-empty one never with the empty suffix; a null
+    /// suffix gives false.
+    [[nodiscard]] static bool EndsWith(char const* s, char const* suffix) noexcept;
+    /// `StartsWith` on the lower-case forms of both. Neither may be null.
+    [[nodiscard]] static bool StartsWithIgnoreCase(char const* s, char const* prefix) noexcept;
+    /// `EndsWith`, its set of characters included, on the lower-case forms of both. Neither may
+    /// be null.
+    [[nodiscard]] static bool EndsWithIgnoreCase(char const* s, char const* suffix) noexcept;
+
+    /// @}
+    /// @name Comparison
+    /// Negative, zero or positive, as the C library compares; bytes count as unsigned.
+    /// @{
+
+    /// Compares byte by byte. Neither may be null.
+    [[nodiscard]] static int Compare(char const* a, char const* b) noexcept;
+    /// Compares at most `n` bytes; -1 when either is null, also when both are.
+    [[nodiscard]] static int Compare(char const* a, char const* b, unsigned int n) noexcept;
+    /// Compares with ASCII case folded; -1 when either is null, also when both are.
+    [[nodiscard]] static int CompareIgnoreCase(char const* a, char const* b) noexcept;
+    /// True when both hold the same bytes. Neither may be null.
+    [[nodiscard]] static bool AreEqual(char const* a, char const* b) noexcept;
+    /// True when both are equal with ASCII case folded; false when either is null.
+    [[nodiscard]] static bool AreEqualIgnoreCase(char const* a, char const* b) noexcept;
+
+    /// @}
+    /// @name Raw copies
+    /// The caller guarantees room in `destination`; no pointer may be null.
+    /// @{
+
+    /// Copies `source` with its terminator.
+    static void Copy(char* destination, char const* source) noexcept;
+    /// Copies at most `n` bytes: without a terminator when `source` has `n` bytes or more, filled
+    /// up with zero bytes to `n` when it is shorter.
+    static void Copy(char* destination, char const* source, unsigned int n) noexcept;
+    /// Copies `source` with its terminator behind the text in `destination`.
+    static void Append(char* destination, char const* source) noexcept;
+
+    /// @}
+};
+
+}  // namespace qel
+
+#endif

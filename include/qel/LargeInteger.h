@@ -1,0 +1,261 @@
+/// @file
+/// Signed integers of any width.
+#ifndef QEL_LARGEINTEGER_H
+#define QEL_LARGEINTEGER_H
+
+#include <cstdint>
+#include <string>
+
+namespace qel {
+
+/// A signed integer of any width, with bit access and number theory.
+///
+/// A value type: each object owns its buffer, a copy is a deep one. The representation is a
+/// magnitude and a sign flag, not two's complement. A zero may carry the flag (a negative zero);
+/// every query treats it as zero, it compares equal to zero and prints without a sign.
+///
+/// Bit positions count from 0 at the least significant bit. A negative position names no bit: it
+/// reads as 0, and writing it does nothing.
+///
+/// No operation throws or reports an error. When memory runs out, or when a value would need a
+/// bit index above the largest `int`, the process ends with one line on the standard error.
+///
+/// An operand may be the object itself: `x += x`, `x /= x` and the like count their operands as
+/// they were on entry. One value may be used by one thread at a time; distinct values are
+/// independent.
+class LargeInteger {
+  public:
+    /// @name Construction and storage
+    /// @{
+
+    /// Zero.
+    LargeInteger() noexcept;
+    /// The value `v`.
+    LargeInteger(int v) noexcept;
+    /// The value `v`.
+    LargeInteger(unsigned int v) noexcept;
+    /// The value `v`.
+    LargeInteger(long long v) noexcept;
+    /// A deep copy, in a buffer just large enough for the source's cached bound.
+    LargeInteger(LargeInteger const& source) noexcept;
+    /// Releases the buffer.
+    ~LargeInteger() noexcept;
+    /// A deep copy, in a new buffer just large enough for the value. Self-assignment does nothing.
+    LargeInteger& operator=(LargeInteger const& source) noexcept;
+    /// Exchanges the two values without copying.
+    void swapWith(LargeInteger& other) noexcept;
+    /// Becomes zero, without a sign. A buffer of 17 words or more is released for a small one.
+    void clear() noexcept;
+    /// A reservation: makes room above the 32-bit word of index `w`, so that writing words up to
+    /// `w` allocates nothing. The value does not change. Does nothing where there is room already.
+    void ensureSize(int w) noexcept;
+
+    /// @}
+    /// @name Sign and small values
+    /// @{
+
+    /// Stores the sign flag as given, even on zero.
+    void setNegative(bool flag) noexcept;
+    /// True for zero, a negative zero included.
+    [[nodiscard]] bool isZero() const noexcept;
+    /// True for +1; -1 is not one.
+    [[nodiscard]] bool isOne() const noexcept;
+    /// True below zero; false for a negative zero.
+    [[nodiscard]] bool isNegative() const noexcept;
+    /// Changes the sign; any zero loses its flag.
+    /// @return the new sign: true when the value is now negative.
+    bool negate() noexcept;
+    /// The low 31 bits of the magnitude, with the sign applied. Higher bits are dropped silently:
+    /// -2^31 gives 0.
+    [[nodiscard]] int toInteger() const noexcept;
+
+    /// @}
+    /// @name Bits of the magnitude
+    /// @{
+
+    /// The index of the highest set bit; -1 for zero.
+    [[nodiscard]] int getHighestBit() const noexcept;
+    /// Bit `i`, 0 or 1; 0 for every position outside the value.
+    [[nodiscard]] int operator[](int i) const noexcept;
+    /// Sets bit `i`, growing the value as needed; ignored for a negative `i`.
+    void setBit(int i) noexcept;
+    /// Sets or clears bit `i`, as setBit(int) and clearBit do.
+    void setBit(int i, bool value) noexcept;
+    /// Clears bit `i`; ignored outside the value. The sign flag stays, also when no bit is left.
+    void clearBit(int i) noexcept;
+    /// Sets or clears the bits `start` to `start + count - 1`; nothing for a `count` below 1.
+    void setRange(int start, int count, bool value) noexcept;
+    /// The bits `start` to `start + count - 1`, at most 32 of them, as an unsigned value in an
+    /// int. Bits above the value read as 0; a negative `start` or a `count` below 1 gives 0.
+    [[nodiscard]] int getBitRangeAsInt(int start, int count) const noexcept;
+    /// Writes the low `count` bits of `value`, at most 32, to the positions from `start` up: bit k
+    /// of `value` goes to position `start + k`. Nothing for a `count` below 1.
+    void setBitRangeAsInt(int start, int count, unsigned int value) noexcept;
+    /// The bits `start` to `start + count - 1` of the magnitude as a new value that is not
+    /// negative. Zero for a range outside the value, a negative `start` or a `count` below 1.
+    [[nodiscard]] LargeInteger getBitRange(int start, int count) const noexcept;
+    /// The lowest set bit at or above `start`; -1 when there is none. A negative `start` counts
+    /// as 0.
+    [[nodiscard]] int findNextSetBit(int start) const noexcept;
+    /// The lowest clear bit at or above `start`. A negative `start` counts as 0; -1 when every
+    /// position up to the largest int is set.
+    ///
+    /// The search ends just above the highest bit that the value ever had since its last exact
+    /// operation: cleared top bits are found, too.
+    [[nodiscard]] int findNextClearBit(int start) const noexcept;
+    /// The number of set bits.
+    [[nodiscard]] int countNumberOfSetBits() const noexcept;
+
+    /// @}
+    /// @name Comparison
+    /// @{
+
+    /// Compares the magnitudes: 1, 0 or -1.
+    [[nodiscard]] int compareAbsolute(LargeInteger const& other) const noexcept;
+    /// Compares the values: 1, 0 or -1.
+    [[nodiscard]] int compare(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator==(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator!=(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator<(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator<=(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator>(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator>=(LargeInteger const& other) const noexcept;
+
+    /// @}
+    /// @name Bitwise operators
+    /// They act on magnitudes and keep the left operand's sign flag, whatever the right one's:
+    /// (-6) & 3 is -2, 6 & (-3) is 2.
+    /// @{
+
+    LargeInteger& operator&=(LargeInteger const& b) noexcept;
+    LargeInteger& operator|=(LargeInteger const& b) noexcept;
+    LargeInteger& operator^=(LargeInteger const& b) noexcept;
+    [[nodiscard]] LargeInteger operator&(LargeInteger const& b) const noexcept;
+    [[nodiscard]] LargeInteger operator|(LargeInteger const& b) const noexcept;
+    [[nodiscard]] LargeInteger operator^(LargeInteger const& b) const noexcept;
+
+    /// @}
+    /// @name Arithmetic
+    /// @{
+
+    /// Signed addition. A negative zero plus a positive b gives -b.
+    LargeInteger& operator+=(LargeInteger const& b) noexcept;
+    /// Signed subtraction.
+    LargeInteger& operator-=(LargeInteger const& b) noexcept;
+    /// Signed multiplication. `x *= x` keeps the sign of x, so that the square of a negative x is
+    /// negative; `x * x` is the square.
+    LargeInteger& operator*=(LargeInteger const& b) noexcept;
+    [[nodiscard]] LargeInteger operator+(LargeInteger const& b) const noexcept;
+    [[nodiscard]] LargeInteger operator-(LargeInteger const& b) const noexcept;
+    [[nodiscard]] LargeInteger operator*(LargeInteger const& b) const noexcept;
+    /// The value with the other sign; zero for any zero.
+    [[nodiscard]] LargeInteger operator-() const noexcept;
+    LargeInteger& operator++() noexcept;
+    LargeInteger& operator--() noexcept;
+    LargeInteger operator++(int) noexcept;
+    LargeInteger operator--(int) noexcept;
+
+    /// @}
+    /// @name Shifts of the magnitude
+    /// The sign flag stays, so a right shift rounds toward zero: (-5) >> 1 is -2. Shifting every
+    /// bit out gives a plain zero.
+    /// @{
+
+    /// Shifts left by `count`, or right by `-count`. With `from` above 0 only the bits at
+    /// positions `from` and up move and those below stay: meant for edits of a few positions, the
+    /// cost is one step a bit.
+    void shiftBits(int count, int from) noexcept;
+    /// Shifts left; a negative `n` shifts right.
+    LargeInteger& operator<<=(int n) noexcept;
+    /// Shifts right; a negative `n` shifts left.
+    LargeInteger& operator>>=(int n) noexcept;
+    [[nodiscard]] LargeInteger operator<<(int n) const noexcept;
+    [[nodiscard]] LargeInteger operator>>(int n) const noexcept;
+    /// Moves the bits at `pos` and above up by one and writes `value` into the gap. Nothing for a
+    /// negative `pos`.
+    void insertBit(int pos, bool value) noexcept;
+
+    /// @}
+    /// @name Division
+    /// Truncating: the quotient rounds toward zero, the remainder takes the dividend's sign. A
+    /// divisor of zero is no error: quotient and remainder are zero.
+    /// @{
+
+    /// Becomes the quotient and stores the remainder, whose old value does not matter.
+    /// @pre `remainder` is not this object. It may be `divisor`, whose old value divides.
+    void divideBy(LargeInteger const& divisor, LargeInteger& remainder) noexcept;
+    LargeInteger& operator/=(LargeInteger const& divisor) noexcept;
+    LargeInteger& operator%=(LargeInteger const& divisor) noexcept;
+    [[nodiscard]] LargeInteger operator/(LargeInteger const& divisor) const noexcept;
+    [[nodiscard]] LargeInteger operator%(LargeInteger const& divisor) const noexcept;
+
+    /// @}
+    /// @name Number theory
+    /// @{
+
+    /// Greatest common divisor by repeated subtraction; both values are used up.
+    ///
+    /// @pre Two objects, both values not negative, and `b` not zero unless `a` is. Otherwise the
+    /// call does not return: a zero `b` is subtracted for ever, opposite signs grow for ever.
+    [[nodiscard]] static LargeInteger simpleGCD(LargeInteger* a, LargeInteger* b) noexcept;
+    /// Greatest common divisor with `other`; that of x and 0 is x.
+    /// @pre Both values are not negative; otherwise the call may not return.
+    [[nodiscard]] LargeInteger findGreatestCommonDivisor(LargeInteger other) const noexcept;
+    /// Becomes its inverse modulo `m`.
+    ///
+    /// Refuses with zero: an `m` that is 1, 0 or negative, and a value that is zero or even once
+    /// reduced modulo `m`, even where an inverse exists (4 modulo 7).
+    /// @pre The value is not negative and shares no factor with `m`; otherwise the call does not
+    /// return.
+    void inverseModulo(LargeInteger const& m) noexcept;
+    /// Becomes its power modulo `m`, with this value as the base.
+    ///
+    /// The exponent itself is first reduced modulo `m`: pass one below `m`. A reduced exponent of
+    /// zero gives 1, also for an `m` of 1; an `m` of zero gives 1.
+    /// @pre The base is not negative; otherwise the sign is not that of the power.
+    void exponentModulo(LargeInteger const& e, LargeInteger const& m) noexcept;
+
+    /// @}
+    /// @name Text
+    /// @{
+
+    /// The digits in radix 2, 8, 10 or 16, lower case, without prefix or leading zeros, behind a
+    /// "-" when negative. Zero is the empty text; so is any value in any other radix.
+    [[nodiscard]] std::string toString(int radix) const noexcept;
+    /// Becomes the number that `text` writes in radix 2, 8, 10 or 16.
+    ///
+    /// Lenient: characters that are no digits of the radix are skipped, reading stops at a zero
+    /// byte, a text without digits (the empty one) is zero. A "-" counts only as the first
+    /// character. In any other radix no digit is read.
+    void parseString(std::string const& text, int radix) noexcept;
+
+    /// @}
+
+  private:
+    friend struct LargeIntegerPeer;
+
+    void refreshHighestBit(long long bound) noexcept;
+    void addMagnitude(LargeInteger const& b) noexcept;
+    void subtractMagnitude(LargeInteger const& b) noexcept;
+    void shiftBy(long long distance, int from) noexcept;
+    void shiftLeft(long long count) noexcept;
+    void shiftRight(long long count) noexcept;
+    void shiftLeftFrom(int from, long long count) noexcept;
+    void shiftRightFrom(int from, long long count) noexcept;
+    [[nodiscard]] std::string digitsByShifting(int bits) const noexcept;
+    [[nodiscard]] std::string digitsByDividing() const noexcept;
+
+    /// The magnitude, least significant word first: `size` + 1 words, the last one a guard.
+    std::uint32_t* data;
+    /// Capacity in words.
+    std::int32_t size;
+    /// An upper bound of the index of the highest set bit; -1 for no bits. It may be too high
+    /// after operations that can only lower the top: bits between are zero.
+    std::int32_t highestBit;
+    /// The sign flag; without meaning on a zero magnitude, but kept.
+    bool negative;
+};
+
+}  // namespace qel
+
+#endif

@@ -1,0 +1,42 @@
+/// @file
+/// Probable primes.
+#ifndef QEL_PRIMESNUMBER_H
+#define QEL_PRIMESNUMBER_H
+
+#include "qel/LargeInteger.h"
+
+namespace qel {
+
+/// Tests for, and the reproducible search of, probable primes. Both functions are pure: they keep
+/// nothing between calls and may be called from several threads at once.
+class PrimesNumber {
+  public:
+    PrimesNumber() = delete;
+
+    /// Miller-Rabin with the first `witnessCount` odd primes 3, 5, 7, 11, ... as witnesses.
+    ///
+    /// Meant for odd candidates: every even number is refused, 2 included. A value with a factor
+    /// from 3 to 23 is refused before any witness; with a `witnessCount` of zero or less every
+    /// other odd value of 2048 or more passes.
+    ///
+    /// Small values are judged by trial division of their low ten bits: 1 passes, and a value
+    /// from 1024 to 2047 gets the verdict of that value minus 1024.
+    /// @pre `n` is not negative; otherwise the call may not return.
+    [[nodiscard]] static bool isProbablyPrime(LargeInteger const& n, int witnessCount) noexcept;
+
+    /// Searches upward from a start that the seeds determine; the same arguments give the same
+    /// prime, in whatever order the seeds stand.
+    ///
+    /// @param bitCount the width of the start, whose top bit is forced. The search may leave the
+    ///     width behind: the result can have more bits, always so below some 12 bits.
+    /// @param witnessCount as for isProbablyPrime.
+    /// @param seeds `seedCount` integers; may be null when `seedCount` is 0.
+    /// @return the prime; zero when the start has outgrown `bitCount` bits before a block of
+    ///     candidates is searched.
+    [[nodiscard]] static LargeInteger createProbablePrime(int bitCount, int witnessCount,
+                                                          int const* seeds, int seedCount) noexcept;
+};
+
+}  // namespace qel
+
+#endif

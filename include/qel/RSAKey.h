@@ -1,0 +1,71 @@
+/// @file
+/// RSA key pairs.
+#ifndef QEL_RSAKEY_H
+#define QEL_RSAKEY_H
+
+#include "qel/LargeInteger.h"
+
+#include <string>
+
+namespace qel {
+
+/// One half of an RSA key pair: an exponent and a modulus.
+///
+/// Which half is called public is the application's choice; applying one half undoes the other.
+/// Keys are deterministic by design: whoever knows the seeds has both keys. This is raw RSA
+/// without padding, no way to keep secrets by itself. A key may be read by several threads at
+/// once.
+class RSAKey {
+  public:
+    /// A key with zero in both fields, which applyToValue refuses.
+    RSAKey() noexcept;
+    /// Reads the text form. Without a comma both fields are zero; digits are read as leniently as
+    /// LargeInteger::parseString does in radix 16, and further commas are skipped.
+    /// @param text must not be null.
+    RSAKey(char const* text) noexcept;
+
+    /// The exponent in hexadecimal, a comma, the modulus in hexadecimal; "," for a default key.
+    [[nodiscard]] std::string toString() const noexcept;
+
+    /// True when both exponents and both moduli are equal.
+    [[nodiscard]] bool operator==(RSAKey const& other) const noexcept;
+    /// True when the exponents or the moduli differ.
+    [[nodiscard]] bool operator!=(RSAKey const& other) const noexcept;
+
+    /// Raises each digit of `value` in base modulus to the exponent, and reverses their order.
+    ///
+    /// The other key of the pair reverses the digits again and restores the value. A value below
+    /// the modulus comes back exactly; one that is a multiple of the modulus loses its lowest
+    /// digit. Costs one modular power a digit.
+    /// @return false, with `value` cleared to zero, when it is zero or negative or when a field of
+    ///     this key is zero.
+    /// @pre The modulus is 2 or more; with a modulus of 1 the call does not return.
+    [[nodiscard]] bool applyToValue(LargeInteger& value) const noexcept;
+
+    /// The first of 3, 5, 9, 17, ..., 65537 (2^k + 1, composites included) that shares no factor
+    /// with either argument; when there is none, the first such number from 4 up.
+    /// @pre Both arguments are positive; otherwise the call may not return.
+    [[nodiscard]] static LargeInteger findBestCommonDivisor(LargeInteger const& first,
+                                                            LargeInteger const& second) noexcept;
+
+    /// Creates the pair that the seeds determine. The same width and seeds give the same pair.
+    ///
+    /// The first half of the seeds draws one prime, the rest the other, each tested with 30
+    /// witnesses. The first key takes a small exponent, the second one its inverse. Nothing checks
+    /// that the primes differ: seeds of which both halves draw the same start give a useless
+    /// modulus. When a prime search fails, both keys come out as default keys.
+    /// @param bitCount the width of the modulus, give or take a bit; small widths come out wider.
+    /// @param seeds `seedCount` integers; may be null when `seedCount` is 0.
+    static void createKeyPair(RSAKey& firstKey, RSAKey& secondKey, int bitCount, int const* seeds,
+                              int seedCount) noexcept;
+
+  private:
+    RSAKey(LargeInteger const& exponent, LargeInteger const& modulus) noexcept;
+
+    LargeInteger exponent;
+    LargeInteger modulus;
+};
+
+}  // namespace qel
+
+#endif

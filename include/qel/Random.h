@@ -1,0 +1,39 @@
+/// @file
+/// The seeded generator.
+#ifndef QEL_RANDOM_H
+#define QEL_RANDOM_H
+
+namespace qel {
+
+class LargeInteger;
+
+/// A small deterministic generator: the same seed gives the same sequence on every machine.
+///
+/// The 48-bit linear congruential generator of the POSIX drand48 family. It exists so that keys
+/// can be re-created from their seeds; it is no source of cryptographic randomness, and takes
+/// nothing from the operating system. One generator may be used by one thread at a time.
+class Random {
+  public:
+    /// Starts from `seed`, stored as it is. Its bits above bit 47 influence nothing.
+    Random(long long seed) noexcept;
+
+    /// One step: bits 47 to 16 of the new state, bit 47 being the sign.
+    int nextInt() noexcept;
+    /// One step: bit 47 of the new state.
+    bool nextBool() noexcept;
+    /// Writes `bitCount` random bits to the positions from `firstBit` up; other bits stay.
+    ///
+    /// Bits below the first multiple of 32 cost one step each, upward; then 32 bits cost one step;
+    /// the rest costs one step each, downward from the top. A `bitCount` below 1 draws nothing; it
+    /// still sets bit `firstBit + bitCount - 1` where that is a position.
+    void fillBitsRandomly(LargeInteger& value, int firstBit, int bitCount) noexcept;
+
+  private:
+    unsigned long long step() noexcept;
+
+    long long seed;
+};
+
+}  // namespace qel
+
+#endif

@@ -1,0 +1,156 @@
+// What a string holds: emptiness, counts, positions, prefixes and suffixes.
+#include "qel/CharFunctions.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+
+namespace {
+
+using qel::CharFunctions;
+
+constexpr char const* none = nullptr;
+
+TEST(Search, EmptinessAndLengthGoByTheFirstZeroByte) {
+    EXPECT_TRUE(CharFunctions::IsEmpty(""));
+    EXPECT_FALSE(CharFunctions::IsEmpty(" "));
+    EXPECT_EQ(CharFunctions::Length(""), 0U);
+    EXPECT_EQ(CharFunctions::Length("ab\0c"), 2U);
+    EXPECT_EQ(CharFunctions::Length(std::string(100000, 'x').c_str()), 100000U);
+}
+
+TEST(Search, StartsWithDigitLooksAtTheFirstByteOnly) {
+    EXPECT_TRUE(CharFunctions::StartsWithDigit("0x"));
+    EXPECT_TRUE(CharFunctions::StartsWithDigit("9"));
+    EXPECT_FALSE(CharFunctions::StartsWithDigit("x0"));
+    EXPECT_FALSE(CharFunctions::StartsWithDigit(""));
+    EXPECT_FALSE(CharFunctions::StartsWithDigit(none));
+}
+
+TEST(Search, ExtendedBytesStartAt128) {
+    EXPECT_TRUE(CharFunctions::ContainsExtendedAsciiCharacters("caf\xE9"));
+    EXPECT_TRUE(CharFunctions::ContainsExtendedAsciiCharacters("\x80"));
+    EXPECT_FALSE(CharFunctions::ContainsExtendedAsciiCharacters("\x7F~"));
+    EXPECT_FALSE(CharFunctions::ContainsExtendedAsciiCharacters(""));
+}
+
+TEST(Search, CountsBytesButNeverTheTerminator) {
+    EXPECT_EQ(CharFunctions::CountOccurence("banana", 'a'), 3U);
+    EXPECT_EQ(CharFunctions::CountOccurence("banana", 'x'), 0U);
+    EXPECT_EQ(CharFunctions::CountOccurence("banana", '\0'), 0U);
+    EXPECT_EQ(CharFunctions::CountOccurence("", 'a'), 0U);
+    EXPECT_EQ(CharFunctions::CountOccurence(none, 'a'), 0U);
+    EXPECT_EQ(CharFunctions::CountOccurence("\xE9\xE9", '\xE9'), 2U);
+}
+
+TEST(Search, BooleanWordsAreExactlyEight) {
+    for (char const* word : {"True", "true", "TRUE", "False", "false", "FALSE", "0", "1"})
+        EXPECT_TRUE(CharFunctions::IsBoolean(word)) << word;
+    for (char const* word : {"yes", "", " true", "true ", "tRUE", "fALSE", "2", "00", "01", "T"})
+        EXPECT_FALSE(CharFunctions::IsBoolean(word)) << word;
+}
+
+TEST(Search, IndexOfSearchesForCharactersOfASetNotForAWord) {
+    EXPECT_EQ(CharFunctions::IndexOfFirstOccurence("path/to\\x", "/\\"), 4);
+    EXPECT_EQ(CharFunctions::IndexOfLastOccurence("path/to\\x", "/\\"), 7);
+    EXPECT_EQ(CharFunctions::IndexOfFirstOccurence("abc", "cb"), 1);
+    EXPECT_EQ(CharFunctions::IndexOfLastOccurence("abc", "ab"), 1);
+}
+
+TEST(Search, IndexOfGivesMinusOneWhenTheSetIsAbsentOrEmpty) {
+    for (char const* s : {"", "abc"}) {
+        for (char const* set : {"", "xyz"}) {
+            EXPECT_EQ(CharFunctions::IndexOfFirstOccurence(s, set), -1) << s << ',' << set;
+            EXPECT_EQ(CharFunctions::IndexOfLastOccurence(s, set), -1) << s << ',' << set;
+        }
+    }
+}
+
+TEST(Search, ContainsRefusesTheEmptyAndTheNullPart) {
+    EXPECT_TRUE(CharFunctions::Contains("abc", "bc"));
+    EXPECT_TRUE(CharFunctions::Contains("abc", "abc"));
+    EXPECT_FALSE(CharFunctions::Contains("abc", "abcd"));
+    EXPECT_FALSE(CharFunctions::Contains("abc", "cb"));
+    EXPECT_FALSE(CharFunctions::Contains("abc", ""));
+    EXPECT_FALSE(CharFunctions::Contains("", ""));
+    EXPECT_FALSE(CharFunctions::Contains("abc", none));
+}
+
+TEST(Search, StartsWithAcceptsTheEmptyPrefixAndRefusesNull) {
+    EXPECT_TRUE(CharFunctions::StartsWith("abc", "ab"));
+    EXPECT_TRUE(CharFunctions::StartsWith("abc", "abc"));
+    EXPECT_TRUE(CharFunctions::StartsWith("abc", ""));
+    EXPECT_TRUE(CharFunctions::StartsWith("", ""));
+    EXPECT_FALSE(CharFunctions::StartsWith("abc", "bc"));
+    EXPECT_FALSE(CharFunctions::StartsWith("abc", "abcd"));
+    EXPECT_FALSE(CharFunctions::StartsWith("", "a"));
+    EXPECT_FALSE(CharFunctions::StartsWith("abc", none));
+}
+
+TEST(Search, EndsWithTakesItsSuffixAsASetOfCharacters) {
+    EXPECT_TRUE(CharFunctions::EndsWith("a/", "/"));
+    EXPECT_TRUE(CharFunctions::EndsWith("abc", "xc"));
+    EXPECT_TRUE(CharFunctions::EndsWith("abc", "cb"));
+    EXPECT_FALSE(CharFunctions::EndsWith("abc", "ab"));
+    EXPECT_FALSE(CharFunctions::EndsWith("ab", ""));
+    EXPECT_FALSE(CharFunctions::EndsWith("abc", none));
+}
+
+TEST(Search, AnEmptyTextEndsWithEverySuffixButNull) {
+    EXPECT_TRUE(CharFunctions::EndsWith("", "/"));
+    EXPECT_TRUE(CharFunctions::EndsWith("", ""));
+    EXPECT_FALSE(CharFunctions::EndsWith("", none));
+}
+
+TEST(Search, IgnoreCaseFoldsBothSides) {
+    EXPECT_TRUE(CharFunctions::StartsWithIgnoreCase("ABC", "aB"));
+    EXPECT_FALSE(CharFunctions::StartsWithIgnoreCase("ABC", "b"));
+    EXPECT_TRUE(CharFunctions::EndsWithIgnoreCase("abC", "Xc"));
+    EXPECT_TRUE(CharFunctions::EndsWithIgnoreCase("abc", "C"));
+    EXPECT_FALSE(CharFunctions::EndsWithIgnoreCase("abc", "AB"));
+    EXPECT_TRUE(CharFunctions::EndsWithIgnoreCase("", ""));
+}
+
+TEST(Search, IgnoreCaseLeavesExtendedBytesAlone) {
+    EXPECT_FALSE(CharFunctions::StartsWithIgnoreCase("\xC9", "\xE9"));
+    EXPECT_TRUE(CharFunctions::StartsWithIgnoreCase("\xC9", "\xC9"));
+}
+
+/// The documented steps, taken literally.
+struct PlainSearch {
+    static bool startsWith(std::string const& s, std::string const& prefix) {
+        return s.find(prefix, 0) == 0;
+    }
+
+    static bool endsWith(std::string const& s, std::string const& suffix) {
+        std::size_t last = std::string::npos;
+        for (std::size_t i = 0; i < s.size(); ++i) {
+            if (suffix.find(s[i]) != std::string::npos)
+                last = i;
+        }
+        return last == s.size() - 1;
+    }
+};
+
+std::string randomText(std::mt19937& random) {
+    std::string text(random() % 6, ' ');
+    for (char& c : text)
+        c = "abA"[random() % 3];
+    return text;
+}
+
+TEST(Search, PrefixAndSuffixAgreeWithThePlainSteps) {
+    std::mt19937 random(1);
+    for (int i = 0; i < 20000; ++i) {
+        std::string const s = randomText(random);
+        std::string const other = randomText(random);
+        SCOPED_TRACE('"' + s + "\", \"" + other + '"');
+        EXPECT_EQ(CharFunctions::StartsWith(s.c_str(), other.c_str()),
+                  PlainSearch::startsWith(s, other));
+        EXPECT_EQ(CharFunctions::EndsWith(s.c_str(), other.c_str()),
+                  PlainSearch::endsWith(s, other));
+    }
+}
+
+}  // namespace
