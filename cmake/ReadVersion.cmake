@@ -1,10 +1,9 @@
 # Reads the version from the sources: they are the one place that states it, so that a build
 # without CMake has it too.
 function(qel_read_version file out)
-    file(STRINGS "${file}" lines REGEX "inline constexpr int version[A-Za-z]+ = [0-9]+;")
+    file(READ "${file}" text)
     foreach(part Major Minor Release)
-        string(REGEX MATCH "version${part} = ([0-9]+);" _ "${lines}")
-        if(CMAKE_MATCH_1 STREQUAL "")
+        if(NOT text MATCHES "int version${part} = ([0-9]+);")
             message(FATAL_ERROR "qel: no version${part} in ${file}")
         endif()
         list(APPEND numbers "${CMAKE_MATCH_1}")

@@ -26,11 +26,12 @@ inline long long highestSetBit(std::uint32_t const* words, int top) noexcept {
     return -1;
 }
 
-/// A position or a count of bits as the int that the interface speaks of.
+/// A position or a count of bits as the int that the interface speaks of; -1 for every position
+/// below 0.
 inline int checkedPosition(long long position) noexcept {
     if (position > INT_MAX)
         endProcessTooWide();
-    return static_cast<int>(position);
+    return position < 0 ? -1 : static_cast<int>(position);
 }
 
 }  // namespace qel

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -59,10 +60,10 @@ TEST(Characters, StringsChangeCaseByteByByteAndKeepExtendedBytes) {
 
 TEST(Characters, HexDigitValueOfEveryByte) {
     forEveryByte([](int byte, char c) {
-        std::size_t const lower = std::string("0123456789abcdef").find(c);
-        std::size_t const upper = std::string("0123456789ABCDEF").find(c);
-        std::size_t const value = lower != std::string::npos ? lower : upper;
-        int const expected = value == std::string::npos ? -1 : static_cast<int>(value);
+        std::size_t const lower = std::string_view("0123456789abcdef").find(c);
+        std::size_t const upper = std::string_view("0123456789ABCDEF").find(c);
+        std::size_t const value = lower != std::string_view::npos ? lower : upper;
+        int const expected = value == std::string_view::npos ? -1 : static_cast<int>(value);
         EXPECT_EQ(CharFunctions::GetHexDigitValue(c), expected) << byte;
     });
     EXPECT_EQ(CharFunctions::GetHexDigitValue('G'), -1);

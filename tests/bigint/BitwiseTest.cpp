@@ -1,0 +1,112 @@
+// And, or, exclusive or: on magnitudes, keeping the left operand's flag.
+#include "LargeIntegerPeer.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace {
+
+using namespace bigint_test;
+
+LargeInteger signedAs(int left, int magnitude) {
+    return LargeInteger(left < 0 ? -magnitude : magnitude);
+}
+
+TEST(Bitwise, AllSmallPairsCombineMagnitudesUnderTheLeftFlag) {
+    for (int a = -17; a <= 17; ++a) {
+        for (int b = -17; b <= 17; ++b) {
+            SCOPED_TRACE(std::to_string(a) + " and " + std::to_string(b));
+            int const x = std::abs(a);
+            int const y = std::abs(b);
+            EXPECT_EQ(LargeInteger(a) & LargeInteger(b), signedAs(a, x & y));
+            EXPECT_EQ(LargeInteger(a) | LargeInteger(b), signedAs(a, x | y));
+            EXPECT_EQ(LargeInteger(a) ^ LargeInteger(b), signedAs(a, x ^ y));
+        }
+    }
+}
+
+TEST(Bitwise, TheRightSignIsIgnored) {
+    EXPECT_EQ(LargeInteger(-6) & LargeInteger(3), LargeInteger(-2));
+    EXPECT_EQ(LargeInteger(-6) | LargeInteger(3), LargeInteger(-7));
+    EXPECT_EQ(LargeInteger(-6) ^ LargeInteger(3), LargeInteger(-5));
+    EXPECT_EQ(LargeInteger(6) & LargeInteger(-3), LargeInteger(2));
+}
+
+TEST(Bitwise, AZeroResultKeepsTheLeftFlag) {
+    EXPECT_EQ(books(LargeInteger(6) ^ LargeInteger(6)), (Books{4, -1, false}));
+    EXPECT_EQ(books(LargeInteger(-6) ^ LargeInteger(6)), (Books{4, -1, true}));
+    EXPECT_EQ(books(LargeInteger(-4) & LargeInteger(3)), (Books{4, -1, true}));
+    // Or makes a flagged zero a negative value.
+    EXPECT_EQ(negativeZero() | LargeInteger(5), LargeInteger(-5));
+}
+
+TEST(Bitwise, AndWithASmallerBufferClearsTheWordsAbove) {
+    LargeInteger wide = powerOfTwo(300) + LargeInteger(7);
+    wide &= LargeInteger(5);
+    EXPECT_EQ(wide, LargeInteger(5));
+    EXPECT_EQ(books(wide).highestBit, 2);
+    for (int i = 1; i < books(wide).size; ++i)
+        EXPECT_EQ(LargeIntegerPeer::word(wide, i), 0U) << i;
+}
+
+TEST(Bitwise, AndWithAWiderBufferKeepsItsOwn) {
+    LargeInteger narrow(7);
+    narrow &= powerOfTwo(300) + LargeInteger(5);
+    EXPECT_EQ(books(narrow), (Books{4, 2, false}));
+    EXPECT_EQ(narrow, LargeInteger(5));
+}
+
+TEST(Bitwise, OrAndXorGrowForTheOtherBound) {
+    LargeInteger either(1);
+    either |= powerOfTwo(200);
+    EXPECT_EQ(books(either), (Books{12, 200, false}));
+    LargeInteger difference(1);
+    difference ^= powerOfTwo(200);
+    EXPECT_EQ(books(difference), (Books{12, 200, false}));
+    difference ^= powerOfTwo(200);
+    EXPECT_EQ(books(difference), (Books{12, 0, false}));
+}
+
+TEST(Bitwise, OrWithAStaleBoundGrowsButGetsAnExactBound) {
+    LargeInteger stale(1);
+    makeStale(stale, 200);
+    LargeInteger v(4);
+    v |= stale;
+    EXPECT_EQ(books(v), (Books{12, 2, false}));
+    EXPECT_EQ(v, LargeInteger(5));
+}
+
+TEST(Bitwise, NothingHappensForABoundlessRightOperand) {
+    LargeInteger v(5);
+    makeStale(v, 100);
+    v |= LargeInteger();
+    EXPECT_EQ(books(v).highestBit, 100);
+    v ^= negativeZero();
+    EXPECT_EQ(books(v).highestBit, 100);
+    v &= LargeInteger();
+    EXPECT_EQ(books(v).highestBit, -1);
+}
+
+TEST(Bitwise, ResultsOfBinaryOperatorsAreTightCopies) {
+    LargeInteger stale(5);
+    makeStale(stale, 200);
+    EXPECT_EQ(books(stale | LargeInteger(2)), (Books{4, 2, false}));
+    EXPECT_EQ(books(stale ^ LargeInteger()), (Books{4, 2, false}));
+    EXPECT_EQ(books(powerOfTwo(200) ^ powerOfTwo(200)), (Books{4, -1, false}));
+}
+
+TEST(Bitwise, AnOperandMayBeTheObjectItself) {
+    for (int start : {-6, 0, 6}) {
+        LargeInteger v(start);
+        v &= v;
+        EXPECT_EQ(v, LargeInteger(start));
+        v |= v;
+        EXPECT_EQ(v, LargeInteger(start));
+        v ^= v;
+        EXPECT_TRUE(v.isZero());
+        EXPECT_EQ(books(v), (Books{4, -1, start < 0}));
+    }
+}
+
+}  // namespace

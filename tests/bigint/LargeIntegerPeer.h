@@ -1,0 +1,74 @@
+// A look inside LargeInteger for its tests: the books it keeps beside the value, and values with
+// prepared books.
+#pragma once
+
+#include "qel/LargeInteger.h"
+
+#include <cstdint>
+#include <ostream>
+#include <string>
+
+namespace qel {
+
+struct LargeIntegerPeer {
+    static int size(LargeInteger const& v) { return v.size; }
+    static int highestBit(LargeInteger const& v) { return v.highestBit; }
+    static bool negative(LargeInteger const& v) { return v.negative; }
+    static std::uint32_t word(LargeInteger const& v, int i) { return v.data[i]; }
+};
+
+// GoogleTest finds this one by its name.
+inline void PrintTo(LargeInteger const& v, std::ostream* out) {
+    *out << (LargeIntegerPeer::negative(v) ? "flagged " : "") << "0x" << v.toString(16);
+}
+
+}  // namespace qel
+
+namespace bigint_test {
+
+using qel::LargeInteger;
+using qel::LargeIntegerPeer;
+
+/// The fields of a value other than its words.
+struct Books {
+    int size;
+    int highestBit;
+    bool negative;
+
+    bool operator==(Books const&) const = default;
+};
+
+inline std::ostream& operator<<(std::ostream& out, Books const& books) {
+    return out << "{size " << books.size << ", bound " << books.highestBit
+               << (books.negative ? ", flagged}" : "}");
+}
+
+inline Books books(LargeInteger const& v) {
+    return {LargeIntegerPeer::size(v), LargeIntegerPeer::highestBit(v),
+            LargeIntegerPeer::negative(v)};
+}
+
+/// The value of a hexadecimal text, with exact books.
+inline LargeInteger hex(std::string const& text) {
+    LargeInteger v;
+    v.parseString(text, 16);
+    return LargeInteger(v);
+}
+
+inline LargeInteger powerOfTwo(int exponent) {
+    return LargeInteger(LargeInteger(1) << exponent);
+}
+
+inline LargeInteger negativeZero() {
+    LargeInteger zero;
+    zero.setNegative(true);
+    return zero;
+}
+
+/// Raises the cached bound of `v` to `bound`, far above its true top.
+inline void makeStale(LargeInteger& v, int bound) {
+    v.setBit(bound);
+    v.clearBit(bound);
+}
+
+}  // namespace bigint_test

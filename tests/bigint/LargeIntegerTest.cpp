@@ -1,0 +1,231 @@
+// Storage: construction, copies, growth, and how the process ends when a value gets too large.
+#include "LargeIntegerPeer.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <csignal>
+#include <sys/resource.h>
+#include <type_traits>
+
+namespace {
+
+using namespace bigint_test;
+
+TEST(Storage, ADefaultValueIsZeroInFourWordsAndAGuard) {
+    LargeInteger const zero;
+    EXPECT_EQ(books(zero), (Books{4, -1, false}));
+    for (int i = 0; i <= 4; ++i)
+        EXPECT_EQ(LargeIntegerPeer::word(zero, i), 0U) << i;
+    EXPECT_EQ(zero.getHighestBit(), -1);
+    EXPECT_TRUE(zero.isZero());
+    EXPECT_EQ(zero.countNumberOfSetBits(), 0);
+    EXPECT_EQ(zero.toInteger(), 0);
+    EXPECT_EQ(zero.findNextSetBit(0), -1);
+    EXPECT_EQ(zero.findNextClearBit(0), 0);
+}
+
+TEST(Storage, MachineIntegersKeepTheirValueAndGetAnExactBound) {
+    struct Row {
+        LargeInteger value;
+        char const* text;
+        int highestBit;
+    };
+    Row const rows[] = {
+        {LargeInteger(0), "", -1},
+        {LargeInteger(0U), "", -1},
+        {LargeInteger(0LL), "", -1},
+        {LargeInteger(1), "1", 0},
+        {LargeInteger(-1), "-1", 0},
+        {LargeInteger(INT_MAX), "7fffffff", 30},
+        {LargeInteger(INT_MIN), "-80000000", 31},
+        {LargeInteger(UINT_MAX), "ffffffff", 31},
+        {LargeInteger(0x80000000U), "80000000", 31},
+        {LargeInteger(0xFFFFFFFFLL), "ffffffff", 31},
+        {LargeInteger(0x100000000LL), "100000000", 32},
+        {LargeInteger(-0x100000000LL), "-100000000", 32},
+        {LargeInteger(LLONG_MAX), "7fffffffffffffff", 62},
+        {LargeInteger(LLONG_MIN), "-8000000000000000", 63},
+    };
+    for (Row const& row : rows) {
+        EXPECT_EQ(row.value.toString(16), row.text);
+        EXPECT_EQ(books(row.value), (Books{4, row.highestBit, row.text[0] == '-'})) << row.text;
+    }
+}
+
+TEST(Storage, NoConstructionFromOtherTypes) {
+    EXPECT_FALSE((std::is_constructible_v<LargeInteger, unsigned long long>));
+    EXPECT_FALSE((std::is_constructible_v<LargeInteger, long>));
+    EXPECT_FALSE((std::is_constructible_v<LargeInteger, double>));
+    EXPECT_FALSE((std::is_constructible_v<LargeInteger, char const*>));
+}
+
+TEST(Storage, EveryMemberPromisesNotToThrow) {
+    EXPECT_TRUE(std::is_nothrow_copy_constructible_v<LargeInteger>);
+    EXPECT_TRUE(std::is_nothrow_copy_assignable_v<LargeInteger>);
+    EXPECT_TRUE(noexcept(std::declval<LargeInteger&>() * std::declval<LargeInteger&>()));
+    EXPECT_TRUE(noexcept(std::declval<LargeInteger&>().toString(10)));
+    EXPECT_TRUE(noexcept(
+        std::declval<LargeInteger&>().parseString(std::declval<std::string const&>(), 10)));
+}
+
+TEST(Storage, ACopyIsSizedByTheCachedBoundButHasAnExactOne) {
+    LargeInteger v(5);
+    makeStale(v, 200);
+    EXPECT_EQ(books(LargeInteger(v)), (Books{7, 2, false}));
+    EXPECT_EQ(LargeInteger(v), LargeInteger(5));
+}
+
+TEST(Storage, AnAssignedValueIsSizedByTheExactTop) {
+    LargeInteger v(-5);
+    makeStale(v, 200);
+    LargeInteger assigned(77);
+    assigned = v;
+    EXPECT_EQ(books(assigned), (Books{4, 2, true}));
+    EXPECT_EQ(assigned, LargeInteger(-5));
+}
+
+TEST(Storage, TightSizesGrowAtEveryWordAboveFour) {
+    struct Row {
+        int top;
+        int size;
+    };
+    for (Row const row : {Row{0, 4}, Row{127, 4}, Row{128, 5}, Row{159, 5}, Row{160, 6}}) {
+        LargeInteger v;
+        v.setBit(row.top);
+        LargeInteger assigned;
+        assigned = v;
+        EXPECT_EQ(books(LargeInteger(v)), (Books{row.size, row.top, false}));
+        EXPECT_EQ(books(assigned), (Books{row.size, row.top, false}));
+        EXPECT_EQ(assigned, v);
+    }
+}
+
+TEST(Storage, ACopyOwnsItsWords) {
+    LargeInteger v(5);
+    LargeInteger copy(v);
+    LargeInteger assigned;
+    assigned = v;
+    v.setBit(10);
+    EXPECT_EQ(copy, LargeInteger(5));
+    EXPECT_EQ(assigned, LargeInteger(5));
+}
+
+TEST(Storage, SelfAssignmentLeavesEvenAStaleBound) {
+    LargeInteger v(5);
+    makeStale(v, 200);
+    LargeInteger& same = v;
+    v = same;
+    EXPECT_EQ(books(v), (Books{12, 200, false}));
+    EXPECT_EQ(v, LargeInteger(5));
+}
+
+TEST(Storage, SwapExchangesAllFourFields) {
+    LargeInteger a(-5);
+    LargeInteger b(7);
+    makeStale(b, 200);
+    a.swapWith(b);
+    EXPECT_EQ(books(a), (Books{12, 200, false}));
+    EXPECT_EQ(books(b), (Books{4, 2, true}));
+    EXPECT_EQ(a, LargeInteger(7));
+    EXPECT_EQ(b, LargeInteger(-5));
+    a.swapWith(a);
+    EXPECT_EQ(a, LargeInteger(7));
+}
+
+TEST(Storage, ClearReleasesBuffersOf17WordsAndKeepsSmallerOnes) {
+    LargeInteger kept;
+    kept.setBit(9 * 32);
+    kept.setNegative(true);
+    ASSERT_EQ(books(kept), (Books{16, 288, true}));
+    kept.clear();
+    EXPECT_EQ(books(kept), (Books{16, -1, false}));
+    for (int i = 0; i <= 16; ++i)
+        EXPECT_EQ(LargeIntegerPeer::word(kept, i), 0U) << i;
+
+    LargeInteger grown;
+    grown.setBit(16 * 32);
+    LargeInteger released(grown);
+    ASSERT_EQ(books(released), (Books{17, 512, false}));
+    released.clear();
+    EXPECT_EQ(books(released), (Books{4, -1, false}));
+    for (int i = 0; i <= 4; ++i)
+        EXPECT_EQ(LargeIntegerPeer::word(released, i), 0U) << i;
+}
+
+TEST(Storage, EnsureSizeGrowsByHalfAgainOnceTwoSpareWordsAreGone) {
+    struct Row {
+        int word;
+        int size;
+    };
+    for (Row const row : {Row{-1, 4}, Row{INT_MIN, 4}, Row{0, 4}, Row{1, 4}, Row{2, 6}, Row{3, 7},
+                          Row{6, 12}, Row{100, 153}, Row{101, 154}}) {
+        LargeInteger v(-5);
+        v.ensureSize(row.word);
+        EXPECT_EQ(books(v), (Books{row.size, 2, true})) << row.word;
+        EXPECT_EQ(v, LargeInteger(-5));
+        for (int i = 1; i < row.size; ++i)
+            EXPECT_EQ(LargeIntegerPeer::word(v, i), 0U) << i;
+    }
+}
+
+TEST(Storage, EnsureSizeNeverShrinks) {
+    LargeInteger v;
+    v.ensureSize(100);
+    v.ensureSize(2);
+    EXPECT_EQ(books(v).size, 153);
+    v.ensureSize(150);  // 152 < 153
+    EXPECT_EQ(books(v).size, 153);
+    v.ensureSize(151);
+    EXPECT_EQ(books(v).size, 229);
+}
+
+TEST(Storage, SettingBit200GrowsTo12WordsAndClearingItLeavesTheBound) {
+    LargeInteger v;
+    v.setBit(200);
+    EXPECT_EQ(books(v), (Books{12, 200, false}));
+    EXPECT_EQ(v.getHighestBit(), 200);
+    v.clearBit(200);
+    EXPECT_EQ(books(v), (Books{12, 200, false}));
+    EXPECT_EQ(v.getHighestBit(), -1);
+    EXPECT_TRUE(v.isZero());
+}
+
+TEST(Storage, TheLargestPositionWorksAndOneMoreEndsTheProcess) {
+    LargeInteger v;
+    v.setBit(INT_MAX);
+    EXPECT_EQ(v.getHighestBit(), INT_MAX);
+    EXPECT_EQ(v[INT_MAX], 1);
+    EXPECT_EQ(v.findNextSetBit(0), INT_MAX);
+    EXPECT_EQ(v.findNextClearBit(INT_MAX), -1);
+    ++v;
+    EXPECT_EQ(v.getHighestBit(), INT_MAX);
+    EXPECT_EQ(v.countNumberOfSetBits(), 2);
+    EXPECT_EXIT(v += v, testing::KilledBySignal(SIGABRT), "^qel: .* wider than an int can index");
+    EXPECT_EXIT(v <<= 1, testing::KilledBySignal(SIGABRT), "wider than an int can index");
+    EXPECT_EXIT(v.shiftBits(1, 5), testing::KilledBySignal(SIGABRT), "wider than an int");
+    v >>= INT_MAX;
+    EXPECT_TRUE(v.isOne());
+}
+
+TEST(Storage, AReservationPastTheLargestCapacityEndsTheProcess) {
+    LargeInteger v;
+    EXPECT_EXIT(v.ensureSize(INT_MAX), testing::KilledBySignal(SIGABRT), "wider than an int");
+    EXPECT_EXIT(v.setRange(INT_MAX, 2, true), testing::KilledBySignal(SIGABRT),
+                "wider than an int");
+    EXPECT_EXIT(v.setBitRangeAsInt(INT_MAX, 2, 2), testing::KilledBySignal(SIGABRT),
+                "wider than an int");
+}
+
+void growWithLittleMemory() {
+    LargeInteger v(1);
+    rlimit const little{1 << 26, 1 << 26};
+    setrlimit(RLIMIT_AS, &little);
+    v.setBit(INT_MAX);
+}
+
+TEST(Storage, ExhaustedMemoryEndsTheProcessWithOneLine) {
+    EXPECT_EXIT(growWithLittleMemory(), testing::KilledBySignal(SIGABRT), "qel: out of memory\n");
+}
+
+}  // namespace

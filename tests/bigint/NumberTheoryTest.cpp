@@ -1,0 +1,209 @@
+// Greatest common divisor, modular inverse, modular power.
+#include "LargeIntegerPeer.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+namespace {
+
+using namespace bigint_test;
+
+LargeInteger gcd(LargeInteger const& a, LargeInteger const& b) {
+    return a.findGreatestCommonDivisor(b);
+}
+
+LargeInteger inverse(LargeInteger value, LargeInteger const& m) {
+    value.inverseModulo(m);
+    return value;
+}
+
+LargeInteger power(LargeInteger base, LargeInteger const& e, LargeInteger const& m) {
+    base.exponentModulo(e, m);
+    return base;
+}
+
+TEST(GreatestCommonDivisor, AllSmallPairs) {
+    for (int a = 0; a <= 60; ++a) {
+        for (int b = 0; b <= 60; ++b) {
+            EXPECT_EQ(gcd(LargeInteger(a), LargeInteger(b)), LargeInteger(std::gcd(a, b)))
+                << a << ", " << b;
+            if (a != 0 && b == 0)
+                continue;
+            LargeInteger x(a);
+            LargeInteger y(b);
+            EXPECT_EQ(LargeInteger::simpleGCD(&x, &y), LargeInteger(std::gcd(a, b)))
+                << a << ", " << b;
+        }
+    }
+}
+
+TEST(GreatestCommonDivisor, OfDocumentedExamples) {
+    EXPECT_EQ(gcd(powerOfTwo(40), LargeInteger(3) << 20), powerOfTwo(20));
+    EXPECT_EQ(gcd(LargeInteger(12), LargeInteger(18)), LargeInteger(6));
+    EXPECT_EQ(gcd(LargeInteger(7), LargeInteger(0)), LargeInteger(7));
+    EXPECT_EQ(gcd(LargeInteger(0), LargeInteger(7)), LargeInteger(7));
+}
+
+TEST(GreatestCommonDivisor, BothSidesOfTheStepFromDivisionToSubtraction) {
+    // Top bits 16 apart are subtracted, 17 apart divided; in either order.
+    for (int apart : {15, 16, 17, 18}) {
+        LargeInteger const a = LargeInteger(9) << apart;
+        LargeInteger const b(12);
+        EXPECT_EQ(gcd(a, b), LargeInteger(12)) << apart;
+        EXPECT_EQ(gcd(b, a), LargeInteger(12)) << apart;
+    }
+}
+
+TEST(GreatestCommonDivisor, UsesUpTheOperandsOfTheSubtractiveForm) {
+    LargeInteger a(12);
+    LargeInteger b(18);
+    EXPECT_EQ(LargeInteger::simpleGCD(&a, &b), LargeInteger(6));
+    EXPECT_TRUE(a.isZero() != b.isZero());
+}
+
+TEST(GreatestCommonDivisor, LeavesTheObjectAndMayTakeItAsOperand) {
+    LargeInteger const v(36);
+    EXPECT_EQ(v.findGreatestCommonDivisor(LargeInteger(48)), LargeInteger(12));
+    EXPECT_EQ(v, LargeInteger(36));
+    EXPECT_EQ(v.findGreatestCommonDivisor(v), v);
+}
+
+TEST(GreatestCommonDivisor, IsReturnedWithAnExactBound) {
+    EXPECT_EQ(books(gcd(powerOfTwo(200), powerOfTwo(199))).highestBit, 199);
+    LargeInteger stale(7);
+    makeStale(stale, 200);
+    EXPECT_EQ(books(gcd(stale, LargeInteger(0))).highestBit, 2);
+}
+
+TEST(Inverse, OfDocumentedExamples) {
+    EXPECT_EQ(inverse(LargeInteger(3), LargeInteger(7)), LargeInteger(5));
+    EXPECT_EQ(inverse(LargeInteger(17), LargeInteger(3120)), LargeInteger(2753));
+    EXPECT_EQ(inverse(LargeInteger(10), LargeInteger(7)), LargeInteger(5));
+    EXPECT_EQ(inverse(LargeInteger(1), LargeInteger(9)), LargeInteger(1));
+    EXPECT_EQ(inverse(LargeInteger(65537), LargeInteger(1000000)), LargeInteger(473473));
+}
+
+TEST(Inverse, OfEveryOddCoprimeValue) {
+    for (int m = 2; m <= 60; ++m) {
+        for (int value = 1; value < m; value += 2) {
+            if (std::gcd(value, m) != 1)
+                continue;
+            int const result = inverse(LargeInteger(value), LargeInteger(m)).toInteger();
+            EXPECT_EQ(value * result % m, 1 % m) << value << " modulo " << m;
+            EXPECT_TRUE(result > 0 && result < m) << value << " modulo " << m;
+        }
+    }
+}
+
+TEST(Inverse, OfAnEvenValueIsRefusedEvenWhereItExists) {
+    EXPECT_EQ(books(inverse(LargeInteger(4), LargeInteger(7))), (Books{4, -1, false}));
+    EXPECT_TRUE(inverse(LargeInteger(9), LargeInteger(7)).isZero());  // 2 once reduced
+    EXPECT_TRUE(inverse(LargeInteger(0), LargeInteger(7)).isZero());
+    EXPECT_TRUE(inverse(LargeInteger(14), LargeInteger(7)).isZero());
+}
+
+TEST(Inverse, ModuloOneZeroOrANegativeIsZero) {
+    EXPECT_TRUE(inverse(LargeInteger(5), LargeInteger(1)).isZero());
+    EXPECT_TRUE(inverse(LargeInteger(1), LargeInteger(1)).isZero());
+    EXPECT_TRUE(inverse(LargeInteger(3), LargeInteger(-7)).isZero());
+    EXPECT_TRUE(inverse(LargeInteger(3), LargeInteger(0)).isZero());
+    EXPECT_TRUE(inverse(LargeInteger(3), negativeZero()).isZero());
+}
+
+TEST(Inverse, RefusalsReleaseALargeBuffer) {
+    LargeInteger even = powerOfTwo(600);
+    even.inverseModulo(powerOfTwo(601));
+    EXPECT_EQ(books(even), (Books{4, -1, false}));
+}
+
+TEST(Inverse, OfANegativeValueWhereTheRemaindersReachOne) {
+    // 7 and -5: 7 = (-5)(-1) + 2, -5 = 2(-2) - 1, 2 = (-1)(-2) + 0 does not end; 8 and -5 does:
+    // 8 = (-5)(-1) + 3, -5 = 3(-1) - 2, 3 = (-2)(-1) + 1.
+    EXPECT_EQ(inverse(LargeInteger(-5), LargeInteger(8)), LargeInteger(3));
+    EXPECT_EQ(inverse(LargeInteger(-13), LargeInteger(8)), LargeInteger(3));
+}
+
+TEST(Inverse, ModuloTheObjectItselfIsZero) {
+    for (int start : {-5, 0, 1, 5}) {
+        LargeInteger v(start);
+        v.inverseModulo(v);
+        EXPECT_TRUE(v.isZero()) << start;
+    }
+}
+
+TEST(Inverse, OfAWideModulus) {
+    LargeInteger const m = hex("f0000000000000000000000000000000000000000000000000000000000000a2");
+    LargeInteger const e(65537);
+    EXPECT_EQ(inverse(e, m) * e % m, LargeInteger(1));
+}
+
+TEST(Power, OfDocumentedExamples) {
+    EXPECT_EQ(power(LargeInteger(4), LargeInteger(13), LargeInteger(497)), LargeInteger(445));
+    EXPECT_EQ(power(LargeInteger(2), LargeInteger(0), LargeInteger(1)), LargeInteger(1));
+    EXPECT_EQ(power(LargeInteger(3), LargeInteger(5), LargeInteger(0)), LargeInteger(1));
+}
+
+/// The documented rule for small values: the exponent reduced first, the result never.
+long long plainPower(long long base, long long e, long long m) {
+    long long result = 1;
+    for (long long i = m == 0 ? 0 : e % m; i > 0; --i)
+        result = result * base % m;
+    return result;
+}
+
+TEST(Power, OfAllSmallValues) {
+    for (int base = 0; base <= 12; ++base) {
+        for (int e = 0; e <= 40; ++e) {
+            for (int m = 0; m <= 12; ++m)
+                EXPECT_EQ(power(LargeInteger(base), LargeInteger(e), LargeInteger(m)),
+                          LargeInteger(plainPower(base, e, m)))
+                    << base << " to " << e << " modulo " << m;
+        }
+    }
+}
+
+TEST(Power, TheExponentIsReducedModuloTheModulus) {
+    EXPECT_EQ(power(LargeInteger(3), LargeInteger(12), LargeInteger(10)), LargeInteger(9));
+    EXPECT_EQ(power(LargeInteger(3), LargeInteger(20), LargeInteger(10)), LargeInteger(1));
+}
+
+TEST(Power, OfANegativeBaseKeepsTheSignOfItsSquares) {
+    // Squaring in place keeps the sign: (-2)^2 comes out as -4, (-2)^3 as 8.
+    EXPECT_EQ(power(LargeInteger(-2), LargeInteger(2), LargeInteger(100)), LargeInteger(-4));
+    EXPECT_EQ(power(LargeInteger(-2), LargeInteger(3), LargeInteger(100)), LargeInteger(8));
+}
+
+TEST(Power, AnOperandMayBeTheObjectItself) {
+    LargeInteger both(7);
+    both.exponentModulo(LargeInteger(3), both);  // 7^3 mod 7
+    EXPECT_TRUE(both.isZero());
+    LargeInteger base(3);
+    base.exponentModulo(base, LargeInteger(10));
+    EXPECT_EQ(base, LargeInteger(7));
+    LargeInteger all(5);
+    all.exponentModulo(all, all);  // the exponent reduces to zero
+    EXPECT_TRUE(all.isOne());
+    LargeInteger modulus(10);
+    LargeInteger other(3);
+    other.exponentModulo(modulus, modulus);
+    EXPECT_TRUE(other.isOne());
+}
+
+TEST(Power, AnExponentCongruentToZeroGivesAFreshOne) {
+    LargeInteger v = powerOfTwo(600);
+    v.exponentModulo(LargeInteger(0), LargeInteger(7));
+    EXPECT_EQ(books(v), (Books{4, 0, false}));
+}
+
+TEST(Power, LeavesTheBoundOfTheLastProduct) {
+    LargeInteger v(5);
+    v.exponentModulo(LargeInteger(1), LargeInteger(7));
+    EXPECT_EQ(books(v).highestBit, 2);
+    LargeInteger w(5);
+    w.exponentModulo(LargeInteger(3), LargeInteger(7));  // 5 * (25 mod 7) = 20, reduced to 6
+    EXPECT_EQ(w, LargeInteger(6));
+    EXPECT_EQ(books(w).highestBit, 4);
+}
+
+}  // namespace
