@@ -68,17 +68,18 @@ TEST(Verdicts, WithoutWitnessesEveryOtherOddNumberPasses) {
 }
 
 TEST(Verdicts, StrongPseudoprimesPassTheWitnessesTheyFool) {
-    // 2 is no witness: 42799 fools 2 but not 3. 31697 is the least beyond 2048 without a factor up
-    // to 23 that fools 3.
+    // 8401 fools 3 but not 5. 42799 fools 2, which is no witness, but not 3.
+    EXPECT_TRUE(isPrime(8401, 1));
+    EXPECT_FALSE(isPrime(8401, 2));
     EXPECT_FALSE(isPrime(42799, 1));
-    LargeInteger const fooled3And5And7 = decimal("3215031751");
-    EXPECT_TRUE(PrimesNumber::isProbablyPrime(fooled3And5And7, 1));
-    EXPECT_TRUE(PrimesNumber::isProbablyPrime(fooled3And5And7, 3));
-    EXPECT_FALSE(PrimesNumber::isProbablyPrime(fooled3And5And7, 4));
-    // Fools 2 to 31, so that the tenth odd prime is the last to be fooled.
-    LargeInteger const fooledTo31 = decimal("3825123056546413051");
-    EXPECT_TRUE(PrimesNumber::isProbablyPrime(fooledTo31, 8));
-    EXPECT_FALSE(PrimesNumber::isProbablyPrime(fooledTo31, 30));
+    LargeInteger const fools3To7 = decimal("3215031751");
+    EXPECT_TRUE(PrimesNumber::isProbablyPrime(fools3To7, 1));
+    EXPECT_TRUE(PrimesNumber::isProbablyPrime(fools3To7, 3));
+    EXPECT_FALSE(PrimesNumber::isProbablyPrime(fools3To7, 4));
+    // Fools 3 to 31, the first ten witnesses, but not the next.
+    LargeInteger const fools3To31 = decimal("3825123056546413051");
+    EXPECT_TRUE(PrimesNumber::isProbablyPrime(fools3To31, 10));
+    EXPECT_FALSE(PrimesNumber::isProbablyPrime(fools3To31, 11));
 }
 
 TEST(Verdicts, PrimesPassOnBothSidesOfEveryWitnessSieve) {
