@@ -1,10 +1,12 @@
-"""Writing and checking of the vector files: shared by make_vectors.py and prime_model.py.
+"""Lines and files of the vectors, written or checked: shared by make_vectors.py and prime_model.py.
 
-What the files hold is decided elsewhere; this file only knows folders, bytes and the two command line forms.
+Which cases the files hold is decided elsewhere.
 """
 import argparse
 import pathlib
 import sys
+
+from arithmetic_model import hexadecimal
 
 HOME = pathlib.Path(__file__).resolve().parent
 
@@ -12,6 +14,22 @@ HOME = pathlib.Path(__file__).resolve().parent
 def sorted_lines(lines):
     """Each line once, the short (cheap) ones first, so that the head of a file is a fair quick run."""
     return sorted(set(lines), key=lambda line: (len(line), line))
+
+
+def hex_line(*values):
+    return " ".join(map(hexadecimal, values))
+
+
+def collect(target, operands, line_of):
+    """Different lines up to `target`; `line_of` gives None for operands that the file does not take."""
+    lines = set()
+    for operand in operands:
+        line = line_of(*operand)
+        if line is not None:
+            lines.add(line)
+        if len(lines) == target:
+            return sorted_lines(lines)
+    raise AssertionError("the operands ran out before the file was full")
 
 
 def _content(lines):

@@ -11,7 +11,7 @@ using qel::CharFunctions;
 
 constexpr char const* none = nullptr;
 
-TEST(Comparison, ComparesBytesAsUnsigned) {
+TEST(StringComparison, ComparesBytesAsUnsigned) {
     EXPECT_EQ(CharFunctions::Compare("abc", "abc"), 0);
     EXPECT_LT(CharFunctions::Compare("abc", "abd"), 0);
     EXPECT_GT(CharFunctions::Compare("abc", "ab"), 0);
@@ -19,14 +19,14 @@ TEST(Comparison, ComparesBytesAsUnsigned) {
     EXPECT_GT(CharFunctions::Compare("a", "A"), 0);
 }
 
-TEST(Comparison, ComparesAtMostNBytes) {
+TEST(StringComparison, ComparesAtMostNBytes) {
     EXPECT_EQ(CharFunctions::Compare("abc", "abd", 2), 0);
     EXPECT_LT(CharFunctions::Compare("abc", "abd", 3), 0);
     EXPECT_EQ(CharFunctions::Compare("abc", "xyz", 0), 0);
     EXPECT_EQ(CharFunctions::Compare("ab", "ab", 100), 0);
 }
 
-TEST(Comparison, NullGivesMinusOneWhereItIsChecked) {
+TEST(StringComparison, NullGivesMinusOneWhereItIsChecked) {
     EXPECT_EQ(CharFunctions::Compare(none, "a", 1), -1);
     EXPECT_EQ(CharFunctions::Compare("a", none, 1), -1);
     EXPECT_EQ(CharFunctions::Compare(none, none, 5), -1);
@@ -35,7 +35,7 @@ TEST(Comparison, NullGivesMinusOneWhereItIsChecked) {
     EXPECT_EQ(CharFunctions::CompareIgnoreCase(none, none), -1);
 }
 
-TEST(Comparison, IgnoringCaseFoldsAsciiOnly) {
+TEST(StringComparison, IgnoringCaseFoldsAsciiOnly) {
     EXPECT_EQ(CharFunctions::CompareIgnoreCase("aBc", "AbC"), 0);
     EXPECT_LT(CharFunctions::CompareIgnoreCase("ABC", "abd"), 0);
     EXPECT_GT(CharFunctions::CompareIgnoreCase("abd", "ABC"), 0);
@@ -44,26 +44,26 @@ TEST(Comparison, IgnoringCaseFoldsAsciiOnly) {
     EXPECT_LT(CharFunctions::CompareIgnoreCase("_", "A"), 0);
 }
 
-TEST(Comparison, EqualityWithAndWithoutCase) {
+TEST(StringComparison, EqualityWithAndWithoutCase) {
     EXPECT_TRUE(CharFunctions::AreEqual("abc", "abc"));
     EXPECT_FALSE(CharFunctions::AreEqual("abc", "ABC"));
     EXPECT_TRUE(CharFunctions::AreEqualIgnoreCase("ABC", "abc"));
     EXPECT_FALSE(CharFunctions::AreEqualIgnoreCase("ABC", "abcd"));
 }
 
-TEST(Comparison, NothingEqualsNullIgnoringCase) {
+TEST(StringComparison, NothingEqualsNullIgnoringCase) {
     EXPECT_FALSE(CharFunctions::AreEqualIgnoreCase(none, "a"));
     EXPECT_FALSE(CharFunctions::AreEqualIgnoreCase("a", none));
     EXPECT_FALSE(CharFunctions::AreEqualIgnoreCase(none, none));
 }
 
-TEST(Comparison, CopyTakesTheTerminatorAndNothingBehindIt) {
+TEST(StringComparison, CopyTakesTheTerminatorAndNothingBehindIt) {
     char buffer[] = "########";
     CharFunctions::Copy(buffer, "abc");
     EXPECT_EQ(std::string(buffer, 8), std::string("abc\0####", 8));
 }
 
-TEST(Comparison, CopyOfNBytesAddsNoTerminatorWhenTheSourceIsAsLong) {
+TEST(StringComparison, CopyOfNBytesAddsNoTerminatorWhenTheSourceIsAsLong) {
     char buffer[] = "########";
     CharFunctions::Copy(buffer, "abcdef", 3);
     EXPECT_EQ(std::string(buffer, 8), "abc#####");
@@ -71,13 +71,13 @@ TEST(Comparison, CopyOfNBytesAddsNoTerminatorWhenTheSourceIsAsLong) {
     EXPECT_EQ(std::string(buffer, 8), "xyz#####");
 }
 
-TEST(Comparison, CopyOfNBytesFillsUpWithZeros) {
+TEST(StringComparison, CopyOfNBytesFillsUpWithZeros) {
     char buffer[] = "########";
     CharFunctions::Copy(buffer, "ab", 5);
     EXPECT_EQ(std::string(buffer, 8), std::string("ab\0\0\0###", 8));
 }
 
-TEST(Comparison, AppendWritesBehindTheText) {
+TEST(StringComparison, AppendWritesBehindTheText) {
     char buffer[16] = "ab";
     CharFunctions::Append(buffer, "cd");
     CharFunctions::Append(buffer, "");
