@@ -7,7 +7,8 @@
 
 namespace qel {
 
-/// Text functions: classification, case, search and comparison.
+/// Text functions: classification, case, search, comparison and editing; hexadecimal text; and the
+/// recognition, parsing and formatting of numbers.
 ///
 /// All text is 8-bit. Letters, digits and case are ASCII only; bytes 128 to 255 are neither
 /// letters nor digits and have no case. A null pointer is checked only where a function says so;
@@ -116,6 +117,32 @@ class CharFunctions {
     static void Copy(char* destination, char const* source, unsigned int n) noexcept;
     /// Copies `source` with its terminator behind the text in `destination`.
     static void Append(char* destination, char const* source) noexcept;
+
+    /// @}
+    /// @name Building
+    /// No pointer may be null.
+    /// @{
+
+    /// `a` followed by `b`.
+    [[nodiscard]] static std::string Concatenate(char const* a, char const* b) noexcept;
+    /// At most `count` bytes of `s` from `start` on. A `start` beyond the length ends the process;
+    /// one equal to it gives "".
+    [[nodiscard]] static std::string SubStr(char const* s, unsigned int start,
+                                            unsigned int count) noexcept;
+    /// `s` behind as many `fill` as make `width` bytes. A longer `s` is not cut.
+    [[nodiscard]] static std::string PadLeftWith(char const* s, unsigned int width,
+                                                 char fill) noexcept;
+    /// `s` in front of as many `fill` as make `width` bytes. A longer `s` is not cut.
+    [[nodiscard]] static std::string PadWith(char const* s, unsigned int width, char fill) noexcept;
+    /// The bytes of `s` from the last to the first.
+    [[nodiscard]] static std::string Reverse(char const* s) noexcept;
+    /// `s` without the white space in front: space, tab, line feed, vertical tab, form feed and
+    /// carriage return.
+    [[nodiscard]] static std::string RemoveLeadingSpaces(char const* s) noexcept;
+    /// `s` without the white space at its end.
+    [[nodiscard]] static std::string RemoveTrailingSpaces(char const* s) noexcept;
+    /// `s` without the white space on both sides.
+    [[nodiscard]] static std::string RemoveLeadingAndTrailingSpaces(char const* s) noexcept;
 
     /// @}
 };
