@@ -145,6 +145,37 @@ class CharFunctions {
     [[nodiscard]] static std::string RemoveLeadingAndTrailingSpaces(char const* s) noexcept;
 
     /// @}
+    /// @name Replacing and removing
+    /// The subject `s` must not be null. A null or empty `old` or `part`, or a null `replacement`,
+    /// gives a copy of `s`.
+    /// @{
+
+    /// Replaces from the end, and what a replacement brings about is replaced too:
+    /// `Replace("aab", "ab", "b")` is "b".
+    ///
+    /// The last occurrence of `old` in the whole text is replaced until there is none. Once it
+    /// finds something to replace, a `replacement` that contains `old` never returns: memory runs
+    /// out (an assert says so first); some others that bring `old` about again and again do the
+    /// same ("ab" by "bbaa" in "abb"). The time taken is linear in the length of `s` and of all
+    /// replacements made.
+    [[nodiscard]] static std::string Replace(char const* s, char const* old,
+                                             char const* replacement) noexcept;
+    /// Replaces the first occurrence only, once.
+    [[nodiscard]] static std::string ReplaceFirstOccurence(char const* s, char const* old,
+                                                           char const* replacement) noexcept;
+    /// Replaces the last occurrence only, once.
+    [[nodiscard]] static std::string ReplaceLastOccurence(char const* s, char const* old,
+                                                          char const* replacement) noexcept;
+    /// Removes from the end, and what closes up to `part` is removed too: `Replace` by "".
+    /// `RemoveAllOccurence("aabb", "ab")` is "".
+    [[nodiscard]] static std::string RemoveAllOccurence(char const* s, char const* part) noexcept;
+    /// Keeps only what follows: the text before the first occurrence goes as well.
+    /// `RemoveFirstOccurence("abXcd", "X")` is "cd".
+    [[nodiscard]] static std::string RemoveFirstOccurence(char const* s, char const* part) noexcept;
+    /// Cuts the last occurrence out; the text before it and after it stays.
+    [[nodiscard]] static std::string RemoveLastOccurence(char const* s, char const* part) noexcept;
+
+    /// @}
 };
 
 }  // namespace qel

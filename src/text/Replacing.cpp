@@ -1,0 +1,150 @@
+// Replacing and removing parts of a text. The documented replacement of all occurrences searches
+// its whole output again after every step; here the search goes on where it can still find
+// something, and only bytes that it passed are moved.
+#include "qel/CharFunctions.h"
+
+#include "LastOccurrence.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+namespace qel {
+
+namespace {
+
+/// A text in two pieces at the ends of one buffer: the head, still to be searched, and the tail,
+/// in which no occurrence starts any more.
+class SplitText {
+  public:
+    explicit SplitText(char const* s) : buffer_(s), headEnd_(buffer_.size()), tail_(headEnd_) {}
+
+    [[nodiscard]] std::string_view head() const noexcept { return {buffer_.data(), headEnd_}; }
+
+    /// Moves the bytes of the head from `position` on to the front of the tail.
+    void passOver(std::size_t position) noexcept {
+        std::size_t const count = headEnd_ - position;
+        move(tail_ - count, position, count);
+        headEnd_ = position;
+        tail_ -= count;
+    }
+
+    void dropFromHead(std::size_t count) noexcept { headEnd_ -= count; }
+
+    void appendToHead(std::string_view text) {
+        if (tail_ - headEnd_ < text.size())
+            widen(text.size());
+        std::memcpy(buffer_.data() + headEnd_, text.data(), text.size());
+        headEnd_ += text.size();
+    }
+
+    /// Moves up to `count` bytes from the front of the tail back to the head.
+    void takeBack(std::size_t count) noexcept {
+        count = std::min(count, buffer_.size() - tail_);
+        move(headEnd_, tail_, count);
+        headEnd_ += count;
+        tail_ += count;
+    }
+
+    [[nodiscard]] std::string joined() && {
+        buffer_.erase(headEnd_, tail_ - headEnd_);
+        return std::move(buffer_);
+    }
+
+  private:
+    void move(std::size_t to, std::size_t from, std::size_t count) noexcept {
+        if (to != from)
+            std::memmove(buffer_.data() + to, buffer_.data() + from, count);
+    }
+
+    /// Doubles the buffer, so that all widenings together cost no more than the final length.
+    void widen(std::size_t needed) {
+        std::size_t const added = buffer_.size() + needed;
+        buffer_.insert(tail_, added, '\0');
+        tail_ += added;
+    }
+
+    std::string buffer_;
+    std::size_t headEnd_;
+    std::size_t tail_;
+};
+
+/// A null or empty part is never replaced.
+bool isSearchable(char const* part) noexcept {
+    return part != nullptr && !CharFunctions::IsEmpty(part);
+}
+
+/// Replaces the last occurrence until there is none.
+std::string replaceAll(char const* s, std::string_view part, std::string_view substitute) {
+    LastOccurrence const last(part);
+    SplitText text(s);
+    // No occurrence starts in the tail: it lies behind the place of the last occurrence. So the
+    // next one starts in the head and reaches into the tail by less than its own length.
+    for (std::size_t position = last.in(text.head()); position != std::string_view::npos;
+         position = last.in(text.head())) {
+        text.passOver(position + part.size());
+        text.dropFromHead(part.size());
+        text.appendToHead(substitute);
+        text.takeBack(part.size() - 1);
+    }
+    return std::move(text).joined();
+}
+
+/// One character by another brings nothing about, in any order.
+std::string replaceCharacter(std::string text, char old, char replacement) {
+    std::replace(text.begin(), text.end(), old, replacement);
+    return text;
+}
+
+}  // namespace
+
+std::string CharFunctions::Replace(char const* s, char const* old,
+                                   char const* replacement) noexcept {
+    if (!isSearchable(old) || replacement == nullptr)
+        return s;
+    assert((!Contains(replacement, old) || !Contains(s, old))
+           && "the replacement contains the old text: this never returns");
+    std::string_view const part(old);
+    std::string_view const substitute(replacement);
+    if (part.size() == 1 && substitute.size() == 1 && part != substitute)
+        return replaceCharacter(s, part.front(), substitute.front());
+    return replaceAll(s, part, substitute);
+}
+
+std::string CharFunctions::ReplaceFirstOccurence(char const* s, char const* old,
+                                                 char const* replacement) noexcept {
+    std::string text(s);
+    if (!isSearchable(old) || replacement == nullptr)
+        return text;
+    if (char const* const found = std::strstr(s, old))
+        text.replace(static_cast<std::size_t>(found - s), std::strlen(old), replacement);
+    return text;
+}
+
+std::string CharFunctions::ReplaceLastOccurence(char const* s, char const* old,
+                                                char const* replacement) noexcept {
+    std::string text(s);
+    if (!isSearchable(old) || replacement == nullptr)
+        return text;
+    std::size_t const position = LastOccurrence(old).in(text);
+    if (position != std::string::npos)
+        text.replace(position, std::strlen(old), replacement);
+    return text;
+}
+
+std::string CharFunctions::RemoveAllOccurence(char const* s, char const* part) noexcept {
+    return Replace(s, part, "");
+}
+
+std::string CharFunctions::RemoveFirstOccurence(char const* s, char const* part) noexcept {
+    char const* const found = isSearchable(part) ? std::strstr(s, part) : nullptr;
+    return found == nullptr ? s : found + std::strlen(part);
+}
+
+std::string CharFunctions::RemoveLastOccurence(char const* s, char const* part) noexcept {
+    return ReplaceLastOccurence(s, part, "");
+}
+
+}  // namespace qel
