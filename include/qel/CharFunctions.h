@@ -176,6 +176,36 @@ class CharFunctions {
     [[nodiscard]] static std::string RemoveLastOccurence(char const* s, char const* part) noexcept;
 
     /// @}
+    /// @name Text from numbers
+    /// The forms that end in Char write the same text as those that end in String, with its
+    /// terminator, into `out`, where the caller guarantees room for it.
+    /// @{
+
+    /// Decimal digits behind a `-` if negative.
+    [[nodiscard]] static std::string Int2String(int v) noexcept;
+    /// As `Int2String`, at most 12 bytes.
+    static void Int2Char(int v, char* out) noexcept;
+    /// Writes values above 2147483647 as negative ones: 4294967295 gives "-1".
+    [[nodiscard]] static std::string UnsignedInt2String(unsigned int v) noexcept;
+    /// As `UnsignedInt2String`, at most 12 bytes.
+    static void UnsignedInt2Char(unsigned int v, char* out) noexcept;
+    /// Decimal digits behind a `-` if negative.
+    [[nodiscard]] static std::string Long2String(long v) noexcept;
+    /// As `Long2String`, at most 21 bytes.
+    static void Long2Char(long v, char* out) noexcept;
+    /// The 32 bits of `v` as hexadecimal digits without leading zeros: -1 gives "ffffffff".
+    [[nodiscard]] static std::string Int2Hexa(int v, bool upperCase) noexcept;
+    /// `v` as `printf` writes it with `format`, which holds one conversion of a double. The text
+    /// may have any length; a format that the C library refuses gives "".
+    [[nodiscard]] static std::string Float2String(double v, char const* format) noexcept;
+    /// As `Float2String`.
+    static void Float2Char(double v, char* out, char const* format) noexcept;
+    /// As for a double of the same value.
+    [[nodiscard]] static std::string Float2String(float v, char const* format) noexcept;
+    /// As for a double of the same value.
+    static void Float2Char(float v, char* out, char const* format) noexcept;
+
+    /// @}
 };
 
 }  // namespace qel
