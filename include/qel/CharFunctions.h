@@ -176,6 +176,19 @@ class CharFunctions {
     [[nodiscard]] static std::string RemoveLastOccurence(char const* s, char const* part) noexcept;
 
     /// @}
+    /// @name Hexadecimal text
+    /// `s` and `hex` must not be null.
+    /// @{
+
+    /// Writes no leading zeros and extends the sign: a byte below 16 gives one digit, one from 128
+    /// on gives eight. "A\n" gives "41a", byte 233 gives "ffffffe9".
+    [[nodiscard]] static std::string AsciiToHexaString(char const* s, bool upperCase) noexcept;
+    /// Reads two digits, of either case, a byte; "" when the length is odd or a byte is no digit.
+    ///
+    /// Undoes `AsciiToHexaString` only where every byte lies between 16 and 127.
+    [[nodiscard]] static std::string HexaStringToAscii(char const* hex) noexcept;
+
+    /// @}
     /// @name Text from numbers
     /// The forms that end in Char write the same text as those that end in String, with its
     /// terminator, into `out`, where the caller guarantees room for it.
