@@ -189,6 +189,38 @@ class CharFunctions {
     [[nodiscard]] static std::string HexaStringToAscii(char const* hex) noexcept;
 
     /// @}
+    /// @name Numbers from text
+    /// The text must not be null, and is looked at as a whole: white space is no part of a number.
+    /// @{
+
+    /// Takes a sign anywhere, one for each of mantissa and exponent: "12-" and "1-2" are numbers.
+    ///
+    /// Hexadecimal digits of either case behind "0x", even none, are a number. Otherwise decimal
+    /// digits with at most one point and one sign, and behind an `e` or `E` once more the same:
+    /// "1e5.3" is a number. Both sides of the marker need a digit.
+    [[nodiscard]] static bool IsNumber(char const* s) noexcept;
+    /// True for a number whose `AsciiToDouble` is a whole one from -2147483648 to 2147483647,
+    /// however it is written: "2.0", "1e3", "0x10" and "-0" are such.
+    [[nodiscard]] static bool IsInt(char const* s) noexcept;
+    /// True for a number whose `AsciiToDouble` is a whole one from 0 to 4294967295, "-0" included.
+    [[nodiscard]] static bool IsUnsignedInt(char const* s) noexcept;
+    /// Reads the numbers of `IsNumber`, not always to the nearest double: each decimal of a
+    /// fraction adds its digit times a power of 0.1, so that "0.3" is 3 * 0.1.
+    ///
+    /// The last sign of mantissa or exponent counts, wherever it stands: "1-2" is -12. Reading
+    /// stops at the first byte that fits in nowhere: "12abc" is 12, "abc" and " 5" are 0. A huge
+    /// exponent gives infinity; an infinite factor times a zero mantissa is not a number.
+    [[nodiscard]] static double AsciiToDouble(char const* s) noexcept;
+    /// `AsciiToDouble` rounded to single precision; infinity beyond its range.
+    [[nodiscard]] static float AsciiToFloat(char const* s) noexcept;
+    /// The C library's `atof`.
+    [[nodiscard]] static double GetDoubleValue(char const* s) noexcept;
+    /// The C library's `atof` rounded to single precision; infinity beyond its range.
+    [[nodiscard]] static float GetFloatValue(char const* s) noexcept;
+    /// The C library's `atoi`.
+    [[nodiscard]] static int GetIntValue(char const* s) noexcept;
+
+    /// @}
     /// @name Text from numbers
     /// The forms that end in Char write the same text as those that end in String, with its
     /// terminator, into `out`, where the caller guarantees room for it.
