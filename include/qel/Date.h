@@ -1,0 +1,243 @@
+/// @file
+/// Instants in time, their calendar fields, their text forms, and the clock.
+#ifndef QEL_DATE_H
+#define QEL_DATE_H
+
+#include <string>
+
+/// The latest counter reading that Date::GetCurrentSystemTime has recorded, in milliseconds; 0 at
+/// first. It follows the counter, except when the counter lies back by 1000 ms or less.
+///
+/// For applications to read: no result of the library depends on it.
+extern unsigned long long lastMSCounterValue;
+
+namespace qel {
+
+/// An instant, held as milliseconds since 1970-01-01T00:00:00Z.
+///
+/// A plain value: one signed 64-bit count, and every count is a date. Calendar fields are local to
+/// the time zone of the process, as the C library sees it. The two directions between fields and
+/// count each have a range in which the C library does the work, with daylight saving, and the
+/// ranges differ:
+///
+/// | direction       | the C library, local time                    | outside it                 |
+/// |-----------------|----------------------------------------------|----------------------------|
+/// | fields to count | years 1971 to 2037                           | the fields are read as UTC |
+/// | count to fields | 1970-01-02 UTC up to, not with, 2038-01-01   | the offset from UTC of     |
+/// |                 |                                              | 1971-01-01, all year round |
+///
+/// So a date built in the year 2040 reads back moved by that offset. Outside the ranges the
+/// calendar is the Gregorian one, extended backward.
+///
+/// One date may be used by one thread at a time. The functions that read the current time share
+/// the state of one clock and are to be called from one thread at a time.
+class Date {
+  public:
+    /// @name Construction
+    /// @{
+
+    /// The epoch, not the current time: that is GetCurrentDate().
+    constexpr Date() noexcept = default;
+    /// The instant `milliseconds` after the epoch; before it when negative.
+    constexpr Date(long long milliseconds) noexcept : msSinceEpoch(milliseconds) {}
+    /// The instant named by the fields, none of which is checked.
+    ///
+    /// For the years 1971 to 2037 they are local time, and the C library carries what is out of
+    /// range; an instant before the epoch becomes the epoch itself, without `millisecond`. For
+    /// every other year, 1970 included, they are UTC: days, hours and the smaller fields are
+    /// carried, months 0, 13 and 14 too, while a month of 15 or more gives a meaningless date.
+    /// @param year the full year, as 2012
+    /// @param month 1 to 12
+    /// @param day 1 to 31
+    /// @param hour 0 to 23
+    /// @param minute 0 to 59
+    /// @param second 0 to 59
+    /// @param millisecond 0 to 999; larger amounts are added just so
+    Date(unsigned int year, unsigned int month, unsigned int day, unsigned int hour,
+         unsigned int minute, unsigned int second, unsigned int millisecond) noexcept;
+    /// Noon of the day that a day-month-year text names; the epoch when IsValidDate refuses it.
+    ///
+    /// An impossible day is carried: "31/02/2012" is 2 March 2012.
+    /// @param text must not be null.
+    Date(char const* text) noexcept;
+
+    /// @}
+    /// @name The count
+    /// @{
+
+    /// Milliseconds since the epoch.
+    [[nodiscard]] constexpr long long GetMillisecondsSinceEpoch() const noexcept {
+        return msSinceEpoch;
+    }
+    /// The seconds within the minute, 0 to 59, from the count alone.
+    ///
+    /// For counts below -999 no such thing: the remainder of the (negative) seconds minus 60, -119
+    /// to -60, as its unsigned pattern; 4294967235 for the count -1000.
+    [[nodiscard]] unsigned int GetSeconds() const noexcept;
+    /// The milliseconds within the second, 0 to 999.
+    ///
+    /// For negative counts no such thing: their remainder minus 1000, -1999 to -1000, as its
+    /// unsigned pattern; 4294966295 for the count -1.
+    [[nodiscard]] unsigned int GetMilliSeconds() const noexcept;
+
+    /// @}
+    /// @name Arithmetic
+    /// All of it wraps around at the ends of the signed 64-bit range.
+    /// @{
+
+    /// Moves forward.
+    Date& operator+=(unsigned long long milliseconds) noexcept;
+    /// Moves back.
+    Date& operator-=(unsigned long long milliseconds) noexcept;
+    /// Moves by `n` seconds; back when negative.
+    void AddSeconds(long long n) noexcept;
+    /// Moves by `n` minutes; back when negative.
+    void AddMinutes(long long n) noexcept;
+    /// Moves by `n` hours; back when negative.
+    void AddHours(long long n) noexcept;
+    /// Moves by `n` times 24 hours, so that the local time of day shifts where daylight saving
+    /// begins or ends in between.
+    void AddDays(long long n) noexcept;
+    /// The days from `second` to `first`, a part of a day taken upward: 1 ms counts as a day,
+    /// -1 ms as none. Computed in double precision.
+    [[nodiscard]] static long long GetNumberOfDaysBetween(Date const& first,
+                                                          Date const& second) noexcept;
+
+    /// @}
+    /// @name Local calendar fields
+    /// Each call breaks the count down anew. Before the start of Julian day 0, 24 November 4714 BC,
+    /// fields come out below zero, as their unsigned patterns.
+    /// @{
+
+    /// 0 to 59.
+    [[nodiscard]] unsigned int GetMinutes() const noexcept;
+    /// 0 to 23.
+    [[nodiscard]] unsigned int GetHours() const noexcept;
+    /// 0, Sunday, to 6, Saturday.
+    [[nodiscard]] unsigned int GetDayOfWeek() const noexcept;
+    /// 1 to 31.
+    [[nodiscard]] unsigned int GetDay() const noexcept;
+    /// 1 to 12.
+    [[nodiscard]] unsigned int GetMonth() const noexcept;
+    /// The full year; 1 BC is 0, and the years before it are unsigned patterns.
+    [[nodiscard]] unsigned int GetYear() const noexcept;
+
+    /// @}
+    /// @name Text of a date
+    /// Days, months, hours, minutes and seconds have a "0" in front up to 9; the year has none.
+    /// @{
+
+    /// "Sun", "Mon", "Tue", "Wed", "Thu", "Fri" or "Sat".
+    [[nodiscard]] std::string GetDayOfWeekName() const noexcept;
+    /// The date, the time or both: "Wed - 21/11/2012 - 09h05m07s", or "Wed_21-11-2012_09h05m07s"
+    /// when compact. The date keeps the separator behind it when no time follows.
+    /// @param withDate day, month and year
+    /// @param withTime hours and minutes
+    /// @param withSeconds the seconds too, as GetSeconds() gives them; only with the time
+    /// @param withDayName the day's name first; only with the date
+    /// @param compact "_" in place of " - ", and "-" in place of "/"
+    [[nodiscard]] std::string ConvertToString(bool withDate, bool withTime, bool withSeconds,
+                                              bool withDayName, bool compact) const noexcept;
+    /// Day, month and year with `separator` between them; the day alone when it is null.
+    [[nodiscard]] std::string GetDDMMYYYY(char const* separator) const noexcept;
+
+    /// @}
+    /// @name Day-month-year text
+    /// Eight characters, day, month and year without separators, or ten with two that are slashes
+    /// or backslashes, in any places. No text may be null.
+    /// @{
+
+    /// The day of a day-month-year text; -1 when it cannot be read. No range is checked.
+    [[nodiscard]] static int GetDay(char const* text) noexcept;
+    /// The month of a day-month-year text; -1 when it cannot be read. No range is checked.
+    [[nodiscard]] static int GetMonth(char const* text) noexcept;
+    /// The year of a day-month-year text; -1 when it cannot be read. No range is checked.
+    [[nodiscard]] static int GetYear(char const* text) noexcept;
+    /// True when the text can be read, with a day of 1 to 31, a month of 1 to 12 and a year of 100
+    /// or more. Lengths of months are not looked at: "31/02/2012" is valid.
+    [[nodiscard]] static bool IsValidDate(char const* text) noexcept;
+
+    /// @}
+    /// @name Build-date text
+    /// The form of the compiler's `__DATE__`: "Nov 21 2012".
+    /// @{
+
+    /// Reads `__DATE__`: "Nov  1 2012" gives "01112012". Empty for null and for what has not the
+    /// form; the characters of day and year are copied unseen.
+    [[nodiscard]] static std::string DATEMacroToDDMMYYYY(char const* text) noexcept;
+    /// Writes a day-month-year text like `__DATE__`, but with a zero, not a space, before a day
+    /// below 10: "01/11/2012" gives "Nov 01 2012". Empty for null and for what IsValidDate refuses;
+    /// an impossible day is carried.
+    [[nodiscard]] static std::string DDMMYYYYToDATEMacro(char const* text) noexcept;
+
+    /// @}
+    /// @name The clock
+    /// @{
+
+    /// Milliseconds since the system started; back to 0 every 2^32 ms, about 49.7 days.
+    [[nodiscard]] static unsigned int GetMillisecondsSinceStartup() noexcept;
+    /// Milliseconds since the epoch, kept steady by the counter of GetMillisecondsSinceStartup.
+    ///
+    /// The wall clock is read by the first call, and again when the counter has gone back by more
+    /// than 10 ms since the previous one; setting it in between changes nothing.
+    [[nodiscard]] static long long GetCurrentSystemTime() noexcept;
+    /// The date of GetCurrentSystemTime().
+    [[nodiscard]] static Date GetCurrentDate() noexcept;
+    /// ConvertToString of the current date.
+    [[nodiscard]] static std::string GetCurrentDate(bool withDate, bool withTime, bool withSeconds,
+                                                    bool withDayName, bool compact) noexcept;
+    /// GetMilliSeconds of the current date.
+    [[nodiscard]] static unsigned int GetCurrentMilliSeconds() noexcept;
+    /// GetSeconds of the current date.
+    [[nodiscard]] static unsigned int GetCurrentSeconds() noexcept;
+    /// GetMinutes of the current date.
+    [[nodiscard]] static unsigned int GetCurrentMinutes() noexcept;
+    /// GetHours of the current date.
+    [[nodiscard]] static unsigned int GetCurrentHours() noexcept;
+    /// GetDayOfWeek of the current date.
+    [[nodiscard]] static unsigned int GetCurrentDayOfWeek() noexcept;
+    /// GetDayOfWeekName of the current date.
+    [[nodiscard]] static std::string GetCurrentDayOfWeekName() noexcept;
+    /// GetDay of the current date.
+    [[nodiscard]] static unsigned int GetCurrentDay() noexcept;
+    /// GetMonth of the current date.
+    [[nodiscard]] static unsigned int GetCurrentMonth() noexcept;
+    /// GetYear of the current date.
+    [[nodiscard]] static unsigned int GetCurrentYear() noexcept;
+    /// Noon of 31 December of the current year.
+    [[nodiscard]] static Date GetLastDayOfCurrentYear() noexcept;
+
+    /// @}
+
+  private:
+    long long msSinceEpoch = 0;
+};
+
+/// @name Comparison
+/// By the count alone.
+/// @{
+
+[[nodiscard]] constexpr bool operator==(Date const& a, Date const& b) noexcept {
+    return a.GetMillisecondsSinceEpoch() == b.GetMillisecondsSinceEpoch();
+}
+[[nodiscard]] constexpr bool operator!=(Date const& a, Date const& b) noexcept {
+    return !(a == b);
+}
+[[nodiscard]] constexpr bool operator<(Date const& a, Date const& b) noexcept {
+    return a.GetMillisecondsSinceEpoch() < b.GetMillisecondsSinceEpoch();
+}
+[[nodiscard]] constexpr bool operator>(Date const& a, Date const& b) noexcept {
+    return b < a;
+}
+[[nodiscard]] constexpr bool operator<=(Date const& a, Date const& b) noexcept {
+    return !(b < a);
+}
+[[nodiscard]] constexpr bool operator>=(Date const& a, Date const& b) noexcept {
+    return !(a < b);
+}
+
+/// @}
+
+}  // namespace qel
+
+#endif

@@ -1,0 +1,105 @@
+// The value: its construction from fields, its arithmetic, and what is read from the count alone.
+// Unsigned arithmetic carries every sum and product, so that the ends of the range wrap around.
+#include "qel/Date.h"
+
+#include "CivilCalendar.h"
+
+#include <cmath>
+#include <ctime>
+
+namespace qel {
+
+namespace {
+
+constexpr long long msPerSecond = 1000;
+constexpr long long msPerMinute = 60 * msPerSecond;
+constexpr long long msPerHour = 60 * msPerMinute;
+constexpr long long msPerDay = 24 * msPerHour;
+constexpr double daysPerMs = 1.1574074074074074e-08;  // the double nearest to 1 / 86400000
+
+constexpr unsigned int firstLocalYear = 1971;
+constexpr unsigned int lastLocalYear = 2037;
+
+constexpr unsigned long long asUnsigned(long long value) noexcept {
+    return static_cast<unsigned long long>(value);
+}
+
+/// Values beyond the signed range are stored as the bit patterns that they are.
+constexpr int fieldValue(unsigned int value) noexcept {
+    return static_cast<int>(value);
+}
+
+/// 0 for what the C library cannot express, and for everything before the epoch. Fields as far
+/// off as 2^31 months still give less than 2^63 ms.
+long long countFromLocalTime(std::tm fields, unsigned int millisecond) noexcept {
+    long long const count = std::mktime(&fields) * msPerSecond;
+    return count < 0 ? 0 : count + millisecond;
+}
+
+}  // namespace
+
+Date::Date(unsigned int year, unsigned int month, unsigned int day, unsigned int hour,
+           unsigned int minute, unsigned int second, unsigned int millisecond) noexcept {
+    if (year >= firstLocalYear && year <= lastLocalYear) {
+        std::tm fields = {};
+        fields.tm_year = fieldValue(year - 1900);
+        fields.tm_mon = fieldValue(month - 1);
+        fields.tm_mday = fieldValue(day);
+        fields.tm_hour = fieldValue(hour);
+        fields.tm_min = fieldValue(minute);
+        fields.tm_sec = fieldValue(second);
+        fields.tm_isdst = -1;
+        msSinceEpoch = countFromLocalTime(fields, millisecond);
+    } else {
+        long long const days = julianDayNumber(year, month, day);
+        unsigned int const secondOfDay = hour * 3600 + second + minute * 60;
+        long long const seconds = days * secondsPerDay + secondOfDay - secondsFromDayZeroToEpoch;
+        msSinceEpoch = seconds * msPerSecond + millisecond;
+    }
+}
+
+unsigned int Date::GetSeconds() const noexcept {
+    long long const second = msSinceEpoch / msPerSecond % 60;
+    return static_cast<unsigned int>(msSinceEpoch < -999 ? second - 60 : second);
+}
+
+unsigned int Date::GetMilliSeconds() const noexcept {
+    long long const millisecond = msSinceEpoch % msPerSecond;
+    return static_cast<unsigned int>(msSinceEpoch < 0 ? millisecond - msPerSecond : millisecond);
+}
+
+Date& Date::operator+=(unsigned long long milliseconds) noexcept {
+    msSinceEpoch = static_cast<long long>(asUnsigned(msSinceEpoch) + milliseconds);
+    return *this;
+}
+
+Date& Date::operator-=(unsigned long long milliseconds) noexcept {
+    msSinceEpoch = static_cast<long long>(asUnsigned(msSinceEpoch) - milliseconds);
+    return *this;
+}
+
+void Date::AddSeconds(long long n) noexcept {
+    *this += asUnsigned(n) * msPerSecond;
+}
+
+void Date::AddMinutes(long long n) noexcept {
+    *this += asUnsigned(n) * msPerMinute;
+}
+
+void Date::AddHours(long long n) noexcept {
+    *this += asUnsigned(n) * msPerHour;
+}
+
+void Date::AddDays(long long n) noexcept {
+    *this += asUnsigned(n) * msPerDay;
+}
+
+long long Date::GetNumberOfDaysBetween(Date const& first, Date const& second) noexcept {
+    Date difference = first;
+    difference -= asUnsigned(second.msSinceEpoch);
+    // A product, not a division: over 285,000 years it can lose a millisecond above whole days.
+    double const days = static_cast<double>(difference.msSinceEpoch) * daysPerMs;
+    return static_cast<long long>(std::ceil(days));
+}
+
+}  // namespace qel
