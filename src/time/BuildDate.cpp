@@ -1,0 +1,53 @@
+// The text that the compiler's __DATE__ gives, "Nov 21 2012", to day-month-year text and back.
+#include "qel/Date.h"
+
+#include "DateFields.h"
+#include "qel/CharFunctions.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace qel {
+
+namespace {
+
+constexpr std::array<std::string_view, 12> monthNames = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                                         "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+
+constexpr unsigned int buildDateLength = 11;
+
+std::string twoDigits(int value) noexcept {
+    std::string const digits = CharFunctions::Int2String(value);
+    return value <= 9 ? '0' + digits : digits;
+}
+
+}  // namespace
+
+std::string Date::DATEMacroToDDMMYYYY(char const* text) noexcept {
+    if (text == nullptr || CharFunctions::Length(text) != buildDateLength || text[3] != ' '
+        || text[6] != ' ')
+        return {};
+    std::string_view const whole(text, buildDateLength);
+    auto const month = std::find(monthNames.begin(), monthNames.end(), whole.substr(0, 3));
+    if (month == monthNames.end())
+        return {};
+    std::string result(whole.substr(4, 2));
+    if (result[0] == ' ')
+        result[0] = '0';
+    result += twoDigits(static_cast<int>(month - monthNames.begin()) + 1);
+    result += whole.substr(7);
+    return result;
+}
+
+std::string Date::DDMMYYYYToDATEMacro(char const* text) noexcept {
+    if (text == nullptr || !IsValidDate(text))
+        return {};
+    // A valid text has a year from 100 to 9999: the fields are within their usual ranges.
+    std::tm const fields = ConvertMillisecondsToLocalTime(Date(text).msSinceEpoch);
+    std::string const month(monthNames[static_cast<std::size_t>(fields.tm_mon)]);
+    return month + ' ' + twoDigits(fields.tm_mday) + ' '
+           + CharFunctions::Int2String(fields.tm_year + 1900);
+}
+
+}  // namespace qel

@@ -1,0 +1,114 @@
+// A date written as text. The forms with a fixed shape are put together in a buffer on the stack,
+// from one breakdown of the date.
+#include "qel/Date.h"
+
+#include "DateFields.h"
+
+#include <array>
+#include <charconv>
+#include <cstring>
+#include <string_view>
+
+namespace qel {
+
+namespace {
+
+constexpr std::array<char const*, 7> dayNames = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+
+/// The day of the week counts as unsigned, so that a negative one has a name too.
+char const* dayName(std::tm const& fields) noexcept {
+    return dayNames[static_cast<unsigned int>(fields.tm_wday) % 7];
+}
+
+/// Text in a buffer that holds the longest date: a day's name, six numbers of up to ten digits and
+/// their separators.
+class DateWriter {
+  public:
+    void putText(std::string_view text) noexcept {
+        std::memcpy(end, text.data(), text.size());
+        end += text.size();
+    }
+
+    void putNumber(unsigned int value) noexcept {
+        end = std::to_chars(end, buffer.data() + buffer.size(), value).ptr;
+    }
+
+    /// Fields are written as unsigned numbers; in far dates they are negative and so have ten
+    /// digits.
+    void putField(int field) noexcept {
+        auto const value = static_cast<unsigned int>(field);
+        if (value > 99)
+            return putNumber(value);
+        *end++ = static_cast<char>('0' + value / 10);
+        *end++ = static_cast<char>('0' + value % 10);
+    }
+
+    void putYear(std::tm const& fields) noexcept {
+        putNumber(static_cast<unsigned int>(fields.tm_year + 1900));
+    }
+
+    [[nodiscard]] std::string text() const noexcept {
+        return std::string(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+    }
+
+  private:
+    std::array<char, 80> buffer;
+    char* end = buffer.data();
+};
+
+void putDate(DateWriter& out, std::tm const& fields, bool withDayName, bool compact) noexcept {
+    std::string_view const groupEnd = compact ? "_" : " - ";
+    std::string_view const separator = compact ? "-" : "/";
+    if (withDayName) {
+        out.putText(dayName(fields));
+        out.putText(groupEnd);
+    }
+    out.putField(fields.tm_mday);
+    out.putText(separator);
+    out.putField(fields.tm_mon + 1);
+    out.putText(separator);
+    out.putYear(fields);
+    out.putText(groupEnd);
+}
+
+}  // namespace
+
+std::string Date::GetDayOfWeekName() const noexcept {
+    return dayName(ConvertMillisecondsToLocalTime(msSinceEpoch));
+}
+
+std::string Date::ConvertToString(bool withDate, bool withTime, bool withSeconds, bool withDayName,
+                                  bool compact) const noexcept {
+    if (!withDate && !withTime)
+        return {};
+    std::tm const fields = ConvertMillisecondsToLocalTime(msSinceEpoch);
+    DateWriter out;
+    if (withDate)
+        putDate(out, fields, withDayName, compact);
+    if (withTime) {
+        out.putField(fields.tm_hour);
+        out.putText("h");
+        out.putField(fields.tm_min);
+        out.putText("m");
+        if (withSeconds) {
+            out.putField(static_cast<int>(GetSeconds()));
+            out.putText("s");
+        }
+    }
+    return out.text();
+}
+
+std::string Date::GetDDMMYYYY(char const* separator) const noexcept {
+    std::tm const fields = ConvertMillisecondsToLocalTime(msSinceEpoch);
+    DateWriter day;
+    day.putField(fields.tm_mday);
+    if (separator == nullptr)
+        return day.text();
+    DateWriter month;
+    month.putField(fields.tm_mon + 1);
+    DateWriter year;
+    year.putYear(fields);
+    return day.text() + separator + month.text() + separator + year.text();
+}
+
+}  // namespace qel

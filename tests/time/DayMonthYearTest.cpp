@@ -1,0 +1,82 @@
+// Reading day-month-year text.
+#include "qel/Date.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using qel::Date;
+
+struct Row {
+    char const* text;
+    int day;
+    int month;
+    int year;
+    bool isValid;
+};
+
+class DayMonthYear : public testing::TestWithParam<Row> {};
+
+TEST_P(DayMonthYear, ReadsTheFieldsAndJudgesThem) {
+    Row const& row = GetParam();
+    SCOPED_TRACE(row.text);
+    EXPECT_EQ(Date::GetDay(row.text), row.day);
+    EXPECT_EQ(Date::GetMonth(row.text), row.month);
+    EXPECT_EQ(Date::GetYear(row.text), row.year);
+    EXPECT_EQ(Date::IsValidDate(row.text), row.isValid);
+}
+
+INSTANTIATE_TEST_SUITE_P(EightCharactersOrTenWithTwoSlashesOfEitherKind, DayMonthYear,
+                         testing::Values(Row{"21112012", 21, 11, 2012, true},
+                                         Row{"21/11/2012", 21, 11, 2012, true},
+                                         Row{"21\\11\\2012", 21, 11, 2012, true},
+                                         Row{"21/11\\2012", 21, 11, 2012, true}));
+INSTANTIATE_TEST_SUITE_P(TheSlashesMayStandAnywhere, DayMonthYear,
+                         testing::Values(Row{"//21112012", 21, 11, 2012, true},
+                                         Row{"21112012\\\\", 21, 11, 2012, true},
+                                         Row{"2/1112/012", 21, 11, 2012, true}));
+INSTANTIATE_TEST_SUITE_P(
+    OtherSeparatorsAndLengthsAreRefused, DayMonthYear,
+    testing::Values(Row{"21-11-2012", -1, -1, -1, false}, Row{"1/11/2012", -1, -1, -1, false},
+                    Row{"", -1, -1, -1, false}, Row{"2111201", -1, -1, -1, false},
+                    Row{"211120123", -1, -1, -1, false}, Row{"2111201234", -1, -1, -1, false},
+                    Row{"///1112012", -1, -1, -1, false}, Row{"/211112012", -1, -1, -1, false},
+                    Row{"21/11/20123", -1, -1, -1, false}));
+INSTANTIATE_TEST_SUITE_P(EightCharactersAreReadByPositionSlashesIncluded, DayMonthYear,
+                         testing::Values(Row{"21/11/12", 21, -1, -1, false},
+                                         Row{"21\\11\\12", 21, -1, -1, false}));
+INSTANTIATE_TEST_SUITE_P(FieldsThatAreNoNumbersAreRefusedOneByOne, DayMonthYear,
+                         testing::Values(Row{"ab/11/2012", -1, 11, 2012, false},
+                                         Row{"21/ab/2012", 21, -1, 2012, false},
+                                         Row{"21/11/abcd", 21, 11, -1, false},
+                                         Row{"2./11/2012", 2, 11, 2012, true},
+                                         Row{"5./11/2012", 5, 11, 2012, true}));
+INSTANTIATE_TEST_SUITE_P(
+    ValidMeansDay1To31Month1To12AndYearFrom100, DayMonthYear,
+    testing::Values(Row{"00/11/2012", 0, 11, 2012, false}, Row{"01/11/2012", 1, 11, 2012, true},
+                    Row{"31/11/2012", 31, 11, 2012, true}, Row{"32/11/2012", 32, 11, 2012, false},
+                    Row{"21/00/2012", 21, 0, 2012, false}, Row{"21/01/2012", 21, 1, 2012, true},
+                    Row{"21/12/2012", 21, 12, 2012, true}, Row{"21/13/2012", 21, 13, 2012, false},
+                    Row{"21/11/0099", 21, 11, 99, false}, Row{"21/11/0100", 21, 11, 100, true},
+                    Row{"21/11/9999", 21, 11, 9999, true}));
+INSTANTIATE_TEST_SUITE_P(TheLengthOfTheMonthIsNotLookedAt, DayMonthYear,
+                         testing::Values(Row{"31/02/2012", 31, 2, 2012, true},
+                                         Row{"29/02/2011", 29, 2, 2011, true}));
+
+TEST(DateFromText, IsNoonOfTheDay) {
+    EXPECT_EQ(Date("21/11/2012"), Date(2012, 11, 21, 12, 0, 0, 0));
+    EXPECT_EQ(Date("21112040").GetMillisecondsSinceEpoch(), 2237112000000);
+    EXPECT_EQ(Date("01/01/0100").GetMillisecondsSinceEpoch(), -59011416000000);
+}
+
+TEST(DateFromText, AnImpossibleDayIsCarried) {
+    EXPECT_EQ(Date("31/02/2012"), Date(2012, 3, 2, 12, 0, 0, 0));
+    EXPECT_EQ(Date("31/02/2041"), Date(2041, 3, 3, 12, 0, 0, 0));
+}
+
+TEST(DateFromText, TextThatIsNoDateGivesTheEpoch) {
+    for (char const* const text : {"", "21-11-2012", "00/11/2012", "21/13/2012", "21/11/0099"})
+        EXPECT_EQ(Date(text), Date()) << text;
+}
+
+}  // namespace
