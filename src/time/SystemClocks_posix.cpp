@@ -1,0 +1,19 @@
+// Time since start-up from POSIX's monotonic clock.
+#ifndef __APPLE__
+
+#include "SystemClocks.h"
+
+#include <ctime>
+
+namespace qel {
+
+unsigned long long microsecondsSinceStartup() noexcept {
+    timespec now = {};
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return static_cast<unsigned long long>(now.tv_sec) * 1000000
+           + static_cast<unsigned long long>(now.tv_nsec) / 1000;
+}
+
+}  // namespace qel
+
+#endif
