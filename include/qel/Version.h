@@ -1,0 +1,24 @@
+/// @file
+/// The version of the library that a program was linked with.
+#ifndef QEL_VERSION_H
+#define QEL_VERSION_H
+
+namespace qel {
+
+/// The first number of the version.
+[[nodiscard]] int GetVersionMajor() noexcept;
+/// The second number of the version.
+[[nodiscard]] int GetVersionMinor() noexcept;
+/// The third number of the version.
+[[nodiscard]] int GetVersionRelease() noexcept;
+
+/// One line without an end: "qel version 1.4.0, build " and the day of the library's build in the
+/// form of `__DATE__`, as "Nov 21 2012".
+///
+/// Every call builds the text anew: the pointer is good until the next call or the end of the
+/// program, and calls are to be made from one thread at a time. The library keeps the memory.
+[[nodiscard]] char const* GetVersion() noexcept;
+
+}  // namespace qel
+
+#endif
