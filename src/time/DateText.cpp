@@ -7,7 +7,6 @@
 #include <array>
 #include <charconv>
 #include <cstring>
-#include <string_view>
 
 namespace qel {
 
@@ -24,9 +23,19 @@ char const* dayName(std::tm const& fields) noexcept {
 /// their separators.
 class DateWriter {
   public:
-    void putText(std::string_view text) noexcept {
-        std::memcpy(end, text.data(), text.size());
-        end += text.size();
+    void put(char c) noexcept { *end++ = c; }
+
+    void putDayName(std::tm const& fields) noexcept {
+        std::memcpy(end, dayName(fields), 3);
+        end += 3;
+    }
+
+    /// Behind the day's name and behind the year.
+    void putGroupEnd(bool compact) noexcept {
+        if (compact)
+            return put('_');
+        std::memcpy(end, " - ", 3);
+        end += 3;
     }
 
     void putNumber(unsigned int value) noexcept {
@@ -39,8 +48,8 @@ class DateWriter {
         auto const value = static_cast<unsigned int>(field);
         if (value > 99)
             return putNumber(value);
-        *end++ = static_cast<char>('0' + value / 10);
-        *end++ = static_cast<char>('0' + value % 10);
+        put(static_cast<char>('0' + value / 10));
+        put(static_cast<char>('0' + value % 10));
     }
 
     void putYear(std::tm const& fields) noexcept {
@@ -57,18 +66,17 @@ class DateWriter {
 };
 
 void putDate(DateWriter& out, std::tm const& fields, bool withDayName, bool compact) noexcept {
-    std::string_view const groupEnd = compact ? "_" : " - ";
-    std::string_view const separator = compact ? "-" : "/";
+    char const separator = compact ? '-' : '/';
     if (withDayName) {
-        out.putText(dayName(fields));
-        out.putText(groupEnd);
+        out.putDayName(fields);
+        out.putGroupEnd(compact);
     }
     out.putField(fields.tm_mday);
-    out.putText(separator);
+    out.put(separator);
     out.putField(fields.tm_mon + 1);
-    out.putText(separator);
+    out.put(separator);
     out.putYear(fields);
-    out.putText(groupEnd);
+    out.putGroupEnd(compact);
 }
 
 }  // namespace
@@ -87,12 +95,12 @@ std::string Date::ConvertToString(bool withDate, bool withTime, bool withSeconds
         putDate(out, fields, withDayName, compact);
     if (withTime) {
         out.putField(fields.tm_hour);
-        out.putText("h");
+        out.put('h');
         out.putField(fields.tm_min);
-        out.putText("m");
+        out.put('m');
         if (withSeconds) {
             out.putField(static_cast<int>(GetSeconds()));
-            out.putText("s");
+            out.put('s');
         }
     }
     return out.text();
