@@ -1,0 +1,53 @@
+#!/bin/sh
+# What qel-dates prints, and its exit codes. Takes the path of the program.
+set -u
+program=$1
+failures=0
+
+expect() { # exit code, everything printed on both streams, arguments of the program
+    code=$1
+    printed=$2
+    shift 2
+    actual=$("$program" "$@" 2>&1)
+    actual_code=$?
+    if [ "$actual_code" != "$code" ] || [ "$actual" != "$printed" ]; then
+        printf '%s %s: exit code %s, not %s; printed:\n%s\nnot:\n%s\n' \
+            "$program" "$*" "$actual_code" "$code" "$actual" "$printed"
+        failures=$((failures + 1))
+    fi
+}
+
+usage='usage: qel-dates DD/MM/YYYY [DD/MM/YYYY]'
+
+expect 0 "$usage" --help
+expect 0 '21/11/2012  Wed' 21/11/2012
+expect 0 '21/11/2012  Wed
+25/12/2012  Tue
+From 21/11/2012 to 25/12/2012: 34 days' 21/11/2012 25/12/2012
+expect 0 '25/12/2012  Tue
+21/11/2012  Wed
+From 25/12/2012 to 21/11/2012: -34 days' 25/12/2012 21/11/2012
+expect 0 '29/02/2012  Wed
+01/03/2012  Thu
+From 29/02/2012 to 01/03/2012: 1 day' 29/02/2012 01/03/2012
+# Across every change of daylight saving, and out of the range of the C library.
+expect 0 '01/07/1969  Tue
+01/07/2040  Sun
+From 01/07/1969 to 01/07/2040: 25933 days' 01/07/1969 01/07/2040
+
+no_date='is no date; write DD/MM/YYYY, with a year from 0100 on'
+expect 2 "$usage"
+expect 2 "$usage" 21/11/2012 22/11/2012 23/11/2012
+expect 2 "qel-dates: '21-11-2012' $no_date" 21-11-2012
+expect 2 "qel-dates: '21/11/0099' $no_date" 21/11/0099
+expect 2 "qel-dates: 'tomorrow' $no_date" 21/11/2012 tomorrow
+expect 2 "qel-dates: the month of '31/02/2012' has no such day" 31/02/2012
+expect 2 "qel-dates: the month of '29/02/2100' has no such day" 29/02/2100
+
+# Complaints go to the standard error.
+if [ -n "$("$program" tomorrow 2>/dev/null)" ]; then
+    echo "$program tomorrow: prints on the standard output"
+    failures=$((failures + 1))
+fi
+
+[ "$failures" = 0 ]
