@@ -97,7 +97,7 @@ void Date::AddDays(long long n) noexcept {
 long long Date::GetNumberOfDaysBetween(Date const& first, Date const& second) noexcept {
     Date difference = first;
     difference -= asUnsigned(second.msSinceEpoch);
-    // A product, not a division: over 285,000 years it can lose a millisecond above whole days.
+    // Beyond 285,000 years a double has no room for a millisecond above whole days.
     double const days = static_cast<double>(difference.msSinceEpoch) * daysPerMs;
     return static_cast<long long>(std::ceil(days));
 }

@@ -50,10 +50,11 @@ bool Date::IsValidDate(char const* text) noexcept {
 }
 
 Date::Date(char const* text) noexcept {
-    if (IsValidDate(text))
-        *this = Date(static_cast<unsigned int>(GetYear(text)),
-                     static_cast<unsigned int>(GetMonth(text)),
-                     static_cast<unsigned int>(GetDay(text)), 12, 0, 0, 0);
+    if (!IsValidDate(text))
+        return;
+    *this =
+        Date(static_cast<unsigned int>(GetYear(text)), static_cast<unsigned int>(GetMonth(text)),
+             static_cast<unsigned int>(GetDay(text)), 12, 0, 0, 0);
 }
 
 }  // namespace qel

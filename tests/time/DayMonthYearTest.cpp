@@ -39,7 +39,8 @@ INSTANTIATE_TEST_SUITE_P(
     OtherSeparatorsAndLengthsAreRefused, DayMonthYear,
     testing::Values(Row{"21-11-2012", -1, -1, -1, false}, Row{"1/11/2012", -1, -1, -1, false},
                     Row{"", -1, -1, -1, false}, Row{"2111201", -1, -1, -1, false},
-                    Row{"211120123", -1, -1, -1, false}, Row{"2111201234", -1, -1, -1, false},
+                    Row{"211120123", -1, -1, -1, false}, Row{"2111/2012", -1, -1, -1, false},
+                    Row{"/21/11/2012", -1, -1, -1, false}, Row{"2111201234", -1, -1, -1, false},
                     Row{"///1112012", -1, -1, -1, false}, Row{"/211112012", -1, -1, -1, false},
                     Row{"21/11/20123", -1, -1, -1, false}));
 INSTANTIATE_TEST_SUITE_P(EightCharactersAreReadByPositionSlashesIncluded, DayMonthYear,

@@ -122,6 +122,13 @@ TEST(FieldsToDate, ANearYearCarriedBeforeTheEpochIsTheEpochWithoutMilliseconds) 
     EXPECT_EQ(countOf({1971, 0x80000001U, 1, 0, 0, 0, 999}), 0);
 }
 
+TEST(FieldsToDate, NearYearsCarriedToTheSecondsAroundTheEpochAreCutOffThere) {
+    for (int second = -30 * 3600; second <= 30 * 3600; ++second) {
+        Fields const fields = {1971, 1, negative(-364), 0, 0, negative(second), 999};
+        ASSERT_EQ(countOf(fields), nearModel(fields)) << fields;
+    }
+}
+
 TEST(FieldsToDate, MillisecondsAreNotLimited) {
     EXPECT_EQ(countOf({2012, 1, 1, 0, 0, 0, 1500}), countOf({2012, 1, 1, 0, 0, 1, 500}));
     EXPECT_EQ(countOf({2012, 1, 1, 0, 0, 0, UINT_MAX}), countOf({2012}) + UINT_MAX);

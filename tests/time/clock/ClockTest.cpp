@@ -17,10 +17,11 @@ constexpr long long noon_ms = noon_s * 1000;
 
 constexpr unsigned int largestCounter = 0xFFFFFFFF;
 
-/// Runs `steps` in a process whose clock nobody has read yet.
+/// Runs `steps` in a process whose clock nobody has read yet, with a script that starts at 0.
 template <typename Steps>
 void withFreshClock(Steps steps) {
     auto const runAndLeave = [&steps] {
+        script = {};
         steps();
         std::_Exit(testing::Test::HasFailure() ? 1 : 0);
     };
