@@ -66,6 +66,15 @@ void Now_SystemClock(benchmark::State& state) {
 }
 BENCHMARK(Now_SystemClock);
 
+/// The clock that GetCurrentSystemTime reads too.
+void Now_SteadyClock(benchmark::State& state) {
+    for (auto _ : state) {
+        auto const now = std::chrono::steady_clock::now().time_since_epoch();
+        benchmark::DoNotOptimize(std::chrono::duration_cast<std::chrono::milliseconds>(now));
+    }
+}
+BENCHMARK(Now_SteadyClock);
+
 void Now_GetCurrentSystemTime(benchmark::State& state) {
     for (auto _ : state)
         benchmark::DoNotOptimize(Date::GetCurrentSystemTime());
