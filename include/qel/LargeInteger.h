@@ -100,10 +100,9 @@ class LargeInteger {
     /// The lowest clear bit at or above `start`. A negative `start` counts as 0; -1 when every
     /// position up to the largest int is set.
     ///
-    /// The search ends just above the highest bit that the value ever had since its last exact
-    /// operation: cleared top bits are found, too.
     [[nodiscard]] int findNextClearBit(int start) const noexcept;
-    /// The number of set bits.
+    /// The number of set bits. (All 2^31 of them set are more than an int counts: the process
+    /// ends.)
     [[nodiscard]] int countNumberOfSetBits() const noexcept;
 
     /// @}
@@ -138,12 +137,12 @@ class LargeInteger {
     /// @name Arithmetic
     /// @{
 
-    /// Signed addition. A negative zero plus a positive b gives -b.
+    /// Signed addition, but a negative zero plus a positive b gives -b.
     LargeInteger& operator+=(LargeInteger const& b) noexcept;
-    /// Signed subtraction.
+    /// Signed subtraction, but a negative zero minus a negative b gives b.
     LargeInteger& operator-=(LargeInteger const& b) noexcept;
-    /// Signed multiplication. `x *= x` keeps the sign of x, so that the square of a negative x is
-    /// negative; `x * x` is the square.
+    /// Signed multiplication, but `x *= x` keeps the sign of x: the square of a negative x comes
+    /// out negative. `x * x` is the square.
     LargeInteger& operator*=(LargeInteger const& b) noexcept;
     [[nodiscard]] LargeInteger operator+(LargeInteger const& b) const noexcept;
     [[nodiscard]] LargeInteger operator-(LargeInteger const& b) const noexcept;
@@ -158,7 +157,8 @@ class LargeInteger {
     /// @}
     /// @name Shifts of the magnitude
     /// The sign flag stays, so a right shift rounds toward zero: (-5) >> 1 is -2. Shifting every
-    /// bit out gives a plain zero.
+    /// bit out gives a plain zero, unless higher bits were cleared since the last operation that
+    /// looked for the top: then a zero may keep its flag.
     /// @{
 
     /// Shifts left by `count`, or right by `-count`. With `from` above 0 only the bits at
@@ -196,22 +196,24 @@ class LargeInteger {
     /// Greatest common divisor by repeated subtraction; both values are used up.
     ///
     /// @pre Two objects, both values not negative, and `b` not zero unless `a` is. Otherwise the
-    /// call does not return: a zero `b` is subtracted for ever, opposite signs grow for ever.
+    /// call may not return: a zero `b` is subtracted for ever, opposite signs grow for ever. (One
+    /// object twice gives 0.)
     [[nodiscard]] static LargeInteger simpleGCD(LargeInteger* a, LargeInteger* b) noexcept;
     /// Greatest common divisor with `other`; that of x and 0 is x.
     /// @pre Both values are not negative; otherwise the call may not return.
     [[nodiscard]] LargeInteger findGreatestCommonDivisor(LargeInteger other) const noexcept;
-    /// Becomes its inverse modulo `m`.
+    /// Becomes its inverse modulo `m`, or zero for an even value, even where an inverse exists (4
+    /// modulo 7).
     ///
-    /// Refuses with zero: an `m` that is 1, 0 or negative, and a value that is zero or even once
-    /// reduced modulo `m`, even where an inverse exists (4 modulo 7).
-    /// @pre The value is not negative and shares no factor with `m`; otherwise the call does not
+    /// Zero, too, for an `m` that is 1, 0 or negative, and for a multiple of `m`; a value of `m` or
+    /// more is even or odd by what it is once reduced modulo `m`.
+    /// @pre The value is not negative and shares no factor with `m`; otherwise the call may not
     /// return.
     void inverseModulo(LargeInteger const& m) noexcept;
-    /// Becomes its power modulo `m`, with this value as the base.
+    /// Becomes its power modulo `m`; the exponent itself is first reduced modulo `m`, so pass one
+    /// below `m`.
     ///
-    /// The exponent itself is first reduced modulo `m`: pass one below `m`. A reduced exponent of
-    /// zero gives 1, also for an `m` of 1; an `m` of zero gives 1.
+    /// A reduced exponent of zero gives 1, also for an `m` of 1; an `m` of zero gives 1.
     /// @pre The base is not negative; otherwise the sign is not that of the power.
     void exponentModulo(LargeInteger const& e, LargeInteger const& m) noexcept;
 

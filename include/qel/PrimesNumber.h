@@ -15,18 +15,22 @@ class PrimesNumber {
 
     /// Miller-Rabin with the first `witnessCount` odd primes 3, 5, 7, 11, ... as witnesses.
     ///
-    /// Meant for odd candidates: every even number is refused, 2 included. A value with a factor
-    /// from 3 to 23 is refused before any witness; with a `witnessCount` of zero or less every
-    /// other odd value of 2048 or more passes.
+    /// Meant for odd candidates from 2048 on: every even number is refused, 2 included; 1 passes;
+    /// and a value from 1024 to 2047 gets the verdict of that value minus 1024, since values below
+    /// 2048 are judged by trial division of their low ten bits.
     ///
-    /// Small values are judged by trial division of their low ten bits: 1 passes, and a value
-    /// from 1024 to 2047 gets the verdict of that value minus 1024.
+    /// From 2048 on, a value with a factor from 3 to 23 is refused before any witness; with a
+    /// `witnessCount` of zero or less every other odd value passes. Each witness may square once
+    /// more often than the textbook's.
     /// @pre `n` is not negative; otherwise the call may not return.
     [[nodiscard]] static bool isProbablyPrime(LargeInteger const& n, int witnessCount) noexcept;
 
     /// Searches upward from a start that the seeds determine; the same arguments give the same
     /// prime, in whatever order the seeds stand.
     ///
+    /// The result is not the next prime: the 2048 numbers or more just above the start are never
+    /// searched. Candidates with certain small divisors (3 and 2p + 1, for the primes p below
+    /// 15000) are left out, the others tested in ascending order.
     /// @param bitCount the width of the start, whose top bit is forced. The search may leave the
     ///     width behind: the result can have more bits, always so below some 12 bits.
     /// @param witnessCount as for isProbablyPrime.

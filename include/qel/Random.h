@@ -21,7 +21,8 @@ class Random {
     int nextInt() noexcept;
     /// One step: bit 47 of the new state.
     bool nextBool() noexcept;
-    /// Writes `bitCount` random bits to the positions from `firstBit` up; other bits stay.
+    /// Writes `bitCount` random bits to the positions from `firstBit` up, the last few of them in
+    /// descending order; other bits stay.
     ///
     /// Bits below the first multiple of 32 cost one step each, upward; then 32 bits cost one step;
     /// the rest costs one step each, downward from the top. A `bitCount` below 1 draws nothing; it

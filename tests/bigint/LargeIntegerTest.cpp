@@ -60,7 +60,7 @@ TEST(Storage, NoConstructionFromOtherTypes) {
     EXPECT_FALSE((std::is_constructible_v<LargeInteger, char const*>));
 }
 
-TEST(Storage, EveryMemberPromisesNotToThrow) {
+TEST(Storage, CopiesOperatorsAndTextPromiseNotToThrow) {
     EXPECT_TRUE(std::is_nothrow_copy_constructible_v<LargeInteger>);
     EXPECT_TRUE(std::is_nothrow_copy_assignable_v<LargeInteger>);
     EXPECT_TRUE(noexcept(std::declval<LargeInteger&>() * std::declval<LargeInteger&>()));

@@ -45,8 +45,22 @@ TEST(GreatestCommonDivisor, OfDocumentedExamples) {
     EXPECT_EQ(gcd(LargeInteger(0), LargeInteger(7)), LargeInteger(7));
 }
 
-TEST(GreatestCommonDivisor, BothSidesOfTheStepFromDivisionToSubtraction) {
-    // Top bits 16 apart are subtracted, 17 apart divided; in either order.
+/// The gcd, which is 1, of two numbers about 200 bits wide whose quotients are all 2^bits.
+LargeInteger gcdWithQuotients(int bits) {
+    LargeInteger a(1);
+    LargeInteger b(0);
+    for (int i = 0; i < 13; ++i) {
+        LargeInteger const next = (a << bits) + b;
+        b = a;
+        a = next;
+    }
+    return gcd(a, b);
+}
+
+TEST(GreatestCommonDivisor, TopBits16ApartAreSubtractedAnd17ApartDivided) {
+    // Subtraction leaves the bound of the operands, which sizes the copy that is returned.
+    EXPECT_EQ(books(gcdWithQuotients(16)), (Books{7, 0, false}));
+    EXPECT_EQ(books(gcdWithQuotients(17)), (Books{4, 0, false}));
     for (int apart : {15, 16, 17, 18}) {
         LargeInteger const a = LargeInteger(9) << apart;
         LargeInteger const b(12);

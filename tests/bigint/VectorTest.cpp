@@ -17,7 +17,7 @@ int position(std::string const& text) {
     return number(text).toInteger();
 }
 
-/// A binary operator, and its assigning form with each operand the destination.
+/// A binary operator and its assigning form; the operands stay.
 template <typename Binary, typename Assign>
 void checkBinary(Fields const& f, Binary binary, Assign assign) {
     LargeInteger const a = number(f[0]);

@@ -36,8 +36,9 @@ TEST(PrimeSearch, EqualSeedsCancel) {
 }
 
 TEST(PrimeSearch, NullSeedsStartFromTheForcedWidth) {
+    int const unused = 7;
     LargeInteger const prime = PrimesNumber::createProbablePrime(100, witnesses, nullptr, 0);
-    EXPECT_EQ(prime, search(100, {}));
+    EXPECT_EQ(prime, PrimesNumber::createProbablePrime(100, witnesses, &unused, 0));
     // The first block starts 2 * 1024 above the start, which is 2^99 here.
     EXPECT_GT(prime, (LargeInteger(1) << 99) + LargeInteger(2048));
     EXPECT_EQ(PrimesNumber::createProbablePrime(100, witnesses, nullptr, -5), prime);

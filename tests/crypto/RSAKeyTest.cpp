@@ -128,11 +128,15 @@ TEST(KeyCreation, ReplacesWhatTheKeysHeld) {
 }
 
 TEST(KeyCreation, NullSeedsAreNoSeeds) {
-    Pair pair;
-    RSAKey::createKeyPair(pair.first, pair.second, 64, nullptr, 0);
-    EXPECT_EQ(pair.first, createPair(64, {}).first);
-    RSAKey::createKeyPair(pair.first, pair.second, 64, nullptr, -4);
-    EXPECT_EQ(pair.first, createPair(64, {}).first);
+    int const unused[] = {7, 8};
+    Pair expected;
+    RSAKey::createKeyPair(expected.first, expected.second, 64, unused, 0);
+    for (int seedCount : {0, -4}) {
+        Pair pair;
+        RSAKey::createKeyPair(pair.first, pair.second, 64, nullptr, seedCount);
+        EXPECT_EQ(pair.first, expected.first);
+        EXPECT_EQ(pair.second, expected.second);
+    }
 }
 
 TEST(KeyCreation, AFailedSearchGivesTwoDefaultKeys) {

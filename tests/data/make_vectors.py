@@ -5,7 +5,7 @@ Usage: make_vectors.py [folder]           writes the files (default: beside this
        make_vectors.py --check [folder]   writes nothing; exits 1 if a file differs from what is computed here
 
 The sign rules live in arithmetic_model.py, the shapes of the operands in operand_shapes.py, the cases of number
-theory and text in files of their own. Wide operands are few, since the slow twin in the tests runs these files too.
+theory and text in files of their own. Wide operands are few, since the plain algorithms run these files too.
 """
 import itertools
 import operator

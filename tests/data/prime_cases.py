@@ -37,6 +37,10 @@ PRIMES = (2053, 4093, 8191, 65537, 2**31 - 1, 2**32 - 5, 3 * 2**30 + 1, 2**61 - 
 # No prime lies within the 2048 numbers above this base of 200 bits, so the search needs a second block.
 BASE_OF_EMPTY_BLOCK = 0xc158972163ea3df7f2a69f737b0a2cda4effd8f3b5162bfe0a
 
+# A start of 719 bits, so near the top that the first block lies above the width, and that block holds no prime: the
+# search fails. Found by trying the widths from 100 on; the next failing one is above 1000.
+START_OF_FAILING_SEARCH = 2**719 - 2 * 2240 + 2 * 1398
+
 COUNTING_TABLE = (1, 2, 3, 4, 5, 6, 7, 8)
 KEY_TABLES = (COUNTING_TABLE, (17, 4), (-1, 2147483647, -2147483648, 0, 99), (123456789, -987654321, 5, 6, 7, 8, 9),
               (27182818, 28459045, 23536028, 74713526), (-7, -7, 12, 2026, 1848, -300, 77, 1, 65537, 4242))
@@ -231,25 +235,28 @@ def affordable(value):
 # Primes
 
 def seeds_for(base, bit_count):
-    """A seed table whose starting value is `base`: the fills of many seeds span every value of the width."""
-    rows, seed = [], 0
+    """A seed table whose starting value is `base`: the fills of many seeds span every value of the width.
+
+    Elimination with rows that are told apart by their top bit; the mask of a row names the kept seeds it combines.
+    """
+    rows, kept, seed = {}, [], 0
     while len(rows) < bit_count:
         seed += 1
-        fill, chosen = reduced(Random(seed).fill_bits_randomly(0, 0, bit_count), {seed}, rows)
+        fill, mask = reduced(Random(seed).fill_bits_randomly(0, 0, bit_count), 1 << len(kept), rows)
         if fill:
-            rows.append((fill, chosen))
-            rows.sort(key=lambda row: row[0], reverse=True)
-    rest, chosen = reduced(base, set(), rows)
-    assert rest == 0 and model.starting_value(bit_count, sorted(chosen)) == base
-    return tuple(sorted(chosen))
+            rows[fill.bit_length()] = (fill, mask)
+            kept.append(seed)
+    rest, mask = reduced(base, 0, rows)
+    seeds = tuple(seed for index, seed in enumerate(kept) if mask >> index & 1)
+    assert rest == 0 and model.starting_value(bit_count, seeds) == base
+    return seeds
 
 
-def reduced(value, chosen, rows):
-    """Eliminates with the rows, widest first; a seed used twice cancels itself."""
-    for row_value, row_chosen in rows:
-        if value ^ row_value < value:
-            value, chosen = value ^ row_value, chosen ^ row_chosen
-    return value, chosen
+def reduced(value, mask, rows):
+    while value and value.bit_length() in rows:
+        row_value, row_mask = rows[value.bit_length()]
+        value, mask = value ^ row_value, mask ^ row_mask
+    return value, mask
 
 
 def random_seeds(draws, count):
@@ -278,10 +285,11 @@ def wide_prime_cases(draws):
 
 
 def designed_prime_cases():
-    """Starting values at the top of their width, whose result is wider, and one before a block without a prime."""
+    """Starts at the top of their width, whose result is wider, one before a block without a prime, and a failure."""
     top = [(width, 30, seeds_for(2**width - 2, width)) for width in (32, 64, 100)]
     step = 2 * model.block_length(200)
-    return top + [(200, 30, seeds_for(BASE_OF_EMPTY_BLOCK - step, 200))]
+    return top + [(200, 30, seeds_for(BASE_OF_EMPTY_BLOCK - step, 200)),
+                  (719, 30, seeds_for(START_OF_FAILING_SEARCH, 719))]
 
 
 def seed_text(seeds):
