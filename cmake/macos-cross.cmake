@@ -8,8 +8,9 @@ get_filename_component(root "${CMAKE_CURRENT_LIST_DIR}" DIRECTORY)
 set(CMAKE_CXX_COMPILER "${root}/build/zig/node_modules/.bin/zig" c++)
 set(CMAKE_CXX_COMPILER_TARGET x86_64-macos)
 
-# This compiler refuses __DATE__ unless told otherwise; the version's banner wants it.
-set(CMAKE_CXX_FLAGS_INIT "-Wno-date-time -isystem ${root}/tests/macos/include")
+# The declarations come last, so that the system's own MacTypes.h is taken before ours. And this
+# compiler refuses __DATE__, which the version's banner wants, unless told otherwise.
+set(CMAKE_CXX_FLAGS_INIT "-idirafter ${root}/tests/macos/include -Wno-date-time")
 
 # A program gets the whole library, used or not, so that its link shows that nothing is missing.
 set(CMAKE_EXE_LINKER_FLAGS_INIT
