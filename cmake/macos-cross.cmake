@@ -1,0 +1,17 @@
+# Builds for x86-64 macOS on Linux with the compiler that tests/macos/cross-build installs, which
+# has libc++ and the system's C headers with it. For the frameworks there are declarations and
+# stubs in tests/macos.
+set(CMAKE_SYSTEM_NAME Darwin)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+
+get_filename_component(root "${CMAKE_CURRENT_LIST_DIR}" DIRECTORY)
+set(CMAKE_CXX_COMPILER "${root}/build/zig/node_modules/.bin/zig" c++)
+set(CMAKE_CXX_COMPILER_TARGET x86_64-macos)
+
+# The declarations come last, so that the system's own MacTypes.h is taken before ours. And this
+# compiler refuses __DATE__, which the version's banner wants, unless told otherwise.
+set(CMAKE_CXX_FLAGS_INIT "-idirafter ${root}/tests/macos/include -Wno-date-time")
+
+# A program gets the whole library, used or not, so that its link shows that nothing is missing.
+set(CMAKE_EXE_LINKER_FLAGS_INIT
+    "-F${root}/tests/macos/frameworks -Wl,--whole-archive -Wl,--no-gc-sections")
