@@ -1,8 +1,10 @@
 // Re-creates an RSA key pair from integer seeds, applies one key to a message and undoes it with
 // the other. The same options print the same keys on every machine.
 #include "qel/CharFunctions.h"
+#include "qel/Date.h"
 #include "qel/LargeInteger.h"
 #include "qel/RSAKey.h"
+#include "qel/Version.h"
 
 #include <charconv>
 #include <iostream>
@@ -16,7 +18,8 @@ namespace {
 constexpr int exitDisagreement = 1;
 constexpr int exitBadOption = 2;
 
-constexpr int smallestWidth = 2;
+/// Below this both primes come from a handful of starts, and may be equal.
+constexpr int smallestWidth = 32;
 constexpr int largestWidth = 16384;
 
 struct Options {
@@ -119,6 +122,13 @@ bool survivesTextForm(qel::RSAKey const& key) {
     return qel::RSAKey(key.toString().c_str()) == key;
 }
 
+void printBanner() {
+    qel::Date const now = qel::Date::GetCurrentDate();
+    std::cout << qel::GetVersion() << "\ntoday is "
+              << now.ConvertToString(true, true, true, true, false) << ", or "
+              << now.ConvertToString(true, true, true, false, true) << "\n\n";
+}
+
 int demonstrate(Options const& options) {
     qel::RSAKey first;
     qel::RSAKey second;
@@ -159,5 +169,6 @@ int main(int argc, char** argv) {
         std::cerr << "qel-keypair: " << fault << '\n';
         return exitBadOption;
     }
+    printBanner();
     return demonstrate(options);
 }

@@ -1,0 +1,59 @@
+#!/bin/sh
+# What qel-keypair prints, and its exit codes. Takes the path of the program.
+set -u
+program=$1
+failures=0
+
+fail() {
+    echo "$1"
+    failures=$((failures + 1))
+}
+
+# Bad options: exit code 2, one line on the standard error, nothing on the standard output.
+refuses() { # the line, arguments of the program
+    line=$1
+    shift
+    printed=$("$program" "$@" 2>/dev/null)
+    code=$?
+    complaint=$("$program" "$@" 2>&1 >/dev/null)
+    [ "$code" = 2 ] || fail "$*: exit code $code"
+    [ -z "$printed" ] || fail "$*: printed $printed"
+    [ "$complaint" = "qel-keypair: $line" ] || fail "$*: complained '$complaint'"
+}
+
+bits='--bits takes a whole number from 32 to 16384, not'
+refuses "$bits 'x'" --bits x
+refuses "$bits ''" --bits ''
+refuses "$bits '31'" --bits 31
+refuses "$bits '16385'" --bits 16385
+refuses "$bits '64 '" --bits '64 '
+refuses '--bits needs a value' --bits
+seeds='--seeds takes integers with commas between them, not'
+refuses "$seeds '1,,2'" --seeds 1,,2
+refuses "$seeds '2147483648'" --seeds 2147483648
+refuses "$seeds ''" --seeds ''
+refuses '--message takes a text that is not empty' --message ''
+refuses "there is no option '--width'" --width 64
+refuses "there is no option 'hello'" hello
+
+# A message comes back, as one digit of the modulus or as many.
+comes_back() { # message, further arguments
+    message=$1
+    shift
+    printed=$("$program" --message "$message" "$@") || fail "$message: exit code $?"
+    for line in "  as a text   $message" 'The message came back, and both keys survive their text form.'; do
+        case $printed in
+        *"$line"*) ;;
+        *) fail "$message: no line '$line' in: $printed" ;;
+        esac
+    done
+}
+
+comes_back 'short' --bits 128
+comes_back 'much longer than the modulus, so digit by digit' --bits 64 --seeds 3,-4
+comes_back "$(printf 'caf\303\251')" --bits 64 --seeds 1
+
+# Both halves of these seeds draw the same prime: nothing can come back, and it is said so.
+"$program" --bits 64 --seeds 5,5 >/dev/null && fail 'equal primes: exit code 0'
+
+[ "$failures" = 0 ]
