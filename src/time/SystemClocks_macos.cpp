@@ -9,7 +9,11 @@ namespace qel {
 
 unsigned long long microsecondsSinceStartup() noexcept {
     UnsignedWide counter = {};
+// The system's headers call it deprecated; it is still the counter that the clock is defined by.
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wdeprecated-declarations"
     Microseconds(&counter);
+#pragma clang diagnostic pop
     return static_cast<unsigned long long>(counter.hi) << 32 | counter.lo;
 }
 
