@@ -154,10 +154,10 @@ class CharFunctions {
     /// `Replace("aab", "ab", "b")` is "b".
     ///
     /// The last occurrence of `old` in the whole text is replaced until there is none. Once it
-    /// finds something to replace, a `replacement` that contains `old` never returns: memory runs
-    /// out (an assert says so first); some others that bring `old` about again and again do the
-    /// same ("ab" by "bbaa" in "abb"). The time taken is linear in the length of `s` and of all
-    /// replacements made.
+    /// finds something to replace, a `replacement` that contains `old` never returns (an assert
+    /// says so first): memory runs out, or nothing changes for ever where the two are equal. Some
+    /// others that bring `old` about again and again run out of memory too ("ab" by "bbaa" in
+    /// "abb"). The time taken is linear in the length of `s` and of all replacements made.
     [[nodiscard]] static std::string Replace(char const* s, char const* old,
                                              char const* replacement) noexcept;
     /// Replaces the first occurrence only, once.
@@ -190,14 +190,15 @@ class CharFunctions {
 
     /// @}
     /// @name Numbers from text
-    /// The text must not be null, and is looked at as a whole: white space is no part of a number.
+    /// The text must not be null.
     /// @{
 
     /// Takes a sign anywhere, one for each of mantissa and exponent: "12-" and "1-2" are numbers.
     ///
     /// Hexadecimal digits of either case behind "0x", even none, are a number. Otherwise decimal
     /// digits with at most one point and one sign, and behind an `e` or `E` once more the same:
-    /// "1e5.3" is a number. Both sides of the marker need a digit.
+    /// "1e5.3" is a number. Both sides of the marker need a digit. The text is looked at as a
+    /// whole, and white space is no part of a number.
     [[nodiscard]] static bool IsNumber(char const* s) noexcept;
     /// True for a number whose `AsciiToDouble` is a whole one from -2147483648 to 2147483647,
     /// however it is written: "2.0", "1e3", "0x10" and "-0" are such.
@@ -213,11 +214,11 @@ class CharFunctions {
     [[nodiscard]] static double AsciiToDouble(char const* s) noexcept;
     /// `AsciiToDouble` rounded to single precision; infinity beyond its range.
     [[nodiscard]] static float AsciiToFloat(char const* s) noexcept;
-    /// The C library's `atof`.
+    /// The C library's `atof`: white space in front is skipped, what follows ignored.
     [[nodiscard]] static double GetDoubleValue(char const* s) noexcept;
-    /// The C library's `atof` rounded to single precision; infinity beyond its range.
+    /// `GetDoubleValue` rounded to single precision; infinity beyond its range.
     [[nodiscard]] static float GetFloatValue(char const* s) noexcept;
-    /// The C library's `atoi`.
+    /// The C library's `atoi`: white space in front is skipped, what follows ignored.
     [[nodiscard]] static int GetIntValue(char const* s) noexcept;
 
     /// @}
