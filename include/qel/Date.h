@@ -6,7 +6,8 @@
 #include <string>
 
 /// The latest counter reading that Date::GetCurrentSystemTime has recorded, in milliseconds; 0 at
-/// first. It follows the counter, except when the counter lies back by 1000 ms or less.
+/// first. It follows the counter, except when the counter lies back by 1000 ms or less; a record
+/// below 1000 follows every step back.
 ///
 /// For applications to read: no result of the library depends on it.
 extern unsigned long long lastMSCounterValue;
@@ -39,6 +40,8 @@ class Date {
     /// The epoch, not the current time: that is GetCurrentDate().
     constexpr Date() noexcept = default;
     /// The instant `milliseconds` after the epoch; before it when negative.
+    ///
+    /// `Date(0)` is ambiguous, with a null text: write `Date()` or `Date(0LL)`.
     constexpr Date(long long milliseconds) noexcept : msSinceEpoch(milliseconds) {}
     /// The instant named by the fields, none of which is checked.
     ///
@@ -106,7 +109,8 @@ class Date {
     /// @}
     /// @name Local calendar fields
     /// Each call breaks the count down anew. Before the start of Julian day 0, 24 November 4714 BC,
-    /// fields come out below zero, as their unsigned patterns.
+    /// fields come out below zero, as their unsigned patterns. Counts beyond the year 1465102 also
+    /// give meaningless fields.
     /// @{
 
     /// 0 to 59.
@@ -178,8 +182,9 @@ class Date {
     [[nodiscard]] static unsigned int GetMillisecondsSinceStartup() noexcept;
     /// Milliseconds since the epoch, kept steady by the counter of GetMillisecondsSinceStartup.
     ///
-    /// The wall clock is read by the first call, and again when the counter has gone back by more
-    /// than 10 ms since the previous one; setting it in between changes nothing.
+    /// The wall clock is read by the first call, unless the counter stands at 0xFFFFFFFF, and again
+    /// when the counter has gone back by more than 10 ms since the previous call, or by any step
+    /// after a reading below 10 or of 0xFFFFFFFF; setting it in between changes nothing.
     [[nodiscard]] static long long GetCurrentSystemTime() noexcept;
     /// The date of GetCurrentSystemTime().
     [[nodiscard]] static Date GetCurrentDate() noexcept;
