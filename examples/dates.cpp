@@ -1,4 +1,5 @@
 // A small calendar: the names of days, and how many days lie between two of them.
+#include "qel/CharFunctions.h"
 #include "qel/Date.h"
 
 #include <cstdlib>
@@ -14,24 +15,26 @@ void printUsage(std::ostream& out) {
     out << "usage: qel-dates DD/MM/YYYY [DD/MM/YYYY]\n";
 }
 
-/// What is wrong with the text of a date; empty when nothing is.
-std::string faultOf(std::string const& text) {
-    if (!qel::Date::IsValidDate(text.c_str()))
-        return "'" + text + "' is no date; write DD/MM/YYYY, with a year from 0100 on";
-    // Valid texts may name a day that its month has not: it is carried into the next month.
-    unsigned int const day = qel::Date(text.c_str()).GetDay();
-    if (static_cast<int>(day) != qel::Date::GetDay(text.c_str()))
-        return "the month of '" + text + "' has no such day";
-    return {};
+/// DD/MM/YYYY, for years up to 9999.
+std::string textOf(qel::Date const& date) {
+    std::string const year = qel::CharFunctions::UnsignedInt2String(date.GetYear());
+    return date.GetDDMMYYYY("/").substr(0, 6)
+           + qel::CharFunctions::PadLeftWith(year.c_str(), 4, '0');
+}
+
+/// Texts in other forms, and days that their month has not, make dates too: but those are written
+/// differently.
+bool isDate(std::string const& text) {
+    return textOf(qel::Date(text.c_str())) == text;
 }
 
 void printDay(qel::Date const& date) {
-    std::cout << date.GetDDMMYYYY("/") << "  " << date.GetDayOfWeekName() << '\n';
+    std::cout << textOf(date) << "  " << date.GetDayOfWeekName() << '\n';
 }
 
 void printDaysBetween(qel::Date const& from, qel::Date const& to) {
     long long const days = qel::Date::GetNumberOfDaysBetween(to, from);
-    std::cout << "From " << from.GetDDMMYYYY("/") << " to " << to.GetDDMMYYYY("/") << ": " << days
+    std::cout << "From " << textOf(from) << " to " << textOf(to) << ": " << days
               << (days == 1 || days == -1 ? " day\n" : " days\n");
 }
 
@@ -50,9 +53,9 @@ int main(int argc, char** argv) {
     // Dates of a calendar have no time zone: in UTC every day has 24 hours, in every year.
     setenv("TZ", "UTC0", 1);
     for (std::string const& text : arguments) {
-        std::string const fault = faultOf(text);
-        if (!fault.empty()) {
-            std::cerr << "qel-dates: " << fault << '\n';
+        if (!isDate(text)) {
+            std::cerr << "qel-dates: '" << text
+                      << "' is no date; write DD/MM/YYYY, with a year from 0100 on\n";
             return exitBadArguments;
         }
     }

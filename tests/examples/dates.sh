@@ -35,14 +35,24 @@ expect 0 '01/07/1969  Tue
 01/07/2040  Sun
 From 01/07/1969 to 01/07/2040: 25933 days' 01/07/1969 01/07/2040
 
+expect 0 '01/01/1970  Thu' 01/01/1970
+expect 0 '21/11/0100  Sun
+31/12/9999  Fri
+From 21/11/0100 to 31/12/9999: 3615575 days' 21/11/0100 31/12/9999
+
 no_date='is no date; write DD/MM/YYYY, with a year from 0100 on'
 expect 2 "$usage"
 expect 2 "$usage" 21/11/2012 22/11/2012 23/11/2012
 expect 2 "qel-dates: '21-11-2012' $no_date" 21-11-2012
 expect 2 "qel-dates: '21/11/0099' $no_date" 21/11/0099
 expect 2 "qel-dates: 'tomorrow' $no_date" 21/11/2012 tomorrow
-expect 2 "qel-dates: the month of '31/02/2012' has no such day" 31/02/2012
-expect 2 "qel-dates: the month of '29/02/2100' has no such day" 29/02/2100
+# Days that their month has not.
+expect 2 "qel-dates: '31/02/2012' $no_date" 31/02/2012
+expect 2 "qel-dates: '29/02/2100' $no_date" 29/02/2100
+# Forms that the library reads, or nearly.
+for text in 21112012 '21\11\2012' //21112012 5./11/2012 21/11/2012/ ''; do
+    expect 2 "qel-dates: '$text' $no_date" "$text"
+done
 
 # Complaints go to the standard error.
 if [ -n "$("$program" tomorrow 2>/dev/null)" ]; then
