@@ -31,8 +31,8 @@ TEST(NumberText, DecimalNumbers) {
 TEST(NumberText, TextsThatAreNoNumbers) {
     for (char const* s : {"",     "+",    "-",    ".",   "1e",   "e5",   "1.2.3", "+-1",   " 1",
                           "1 ",   "1\n",  "0X1F", "0xZ", "0x1g", "x1",   "1e5e",  "1e5e6", "--1",
-                          "1-2-", "1e--", "1e+",  "1e.", "abc",  "12a",  "-",     "-.e",   ".e1",
-                          "+.",   "1,5",  "inf",  "nan", "0x-",  "0x 1", "-0x1",  "1\xE9"})
+                          "1-2-", "1e--", "1e+",  "1e.", "abc",  "12a",  "-.e",   ".e1",   "+.",
+                          "1,5",  "inf",  "nan",  "0x-", "0x 1", "-0x1", "1\xE9"})
         EXPECT_FALSE(CharFunctions::IsNumber(s)) << s;
 }
 
@@ -99,13 +99,9 @@ TEST(NumberText, EveryShortTextIsJudgedAsThePlainStepsDo) {
 }
 
 TEST(NumberText, IntegersMayBeWrittenInAnyWay) {
-    for (char const* s : {"2", "2.0", "1e3", "0x10", "-0", "0x", "5-", "1-2", "25e-1.0e"})
-        EXPECT_EQ(CharFunctions::IsInt(s), CharFunctions::IsNumber(s)) << s;
-    EXPECT_TRUE(CharFunctions::IsInt("2.0"));
-    EXPECT_TRUE(CharFunctions::IsInt("1e3"));
-    EXPECT_TRUE(CharFunctions::IsInt("0x10"));
-    EXPECT_TRUE(CharFunctions::IsInt("-0"));
-    for (char const* s : {"2.5", "", "abc", "1 ", "1e-1"})
+    for (char const* s : {"2", "2.0", "1e3", "0x10", "-0", "0x", "5-", "1-2", "20e-1.0"})
+        EXPECT_TRUE(CharFunctions::IsInt(s)) << s;
+    for (char const* s : {"2.5", "", "abc", "1 ", "1e-1", "25e-1.0", "20e-1.0e"})
         EXPECT_FALSE(CharFunctions::IsInt(s)) << s;
 }
 
@@ -156,6 +152,7 @@ TEST(NumberText, ValuesToTheBit) {
              {" 5", 0.0},
              {"12abc", 12.0},
              {"1e2e3", 100.0},
+             {"25e-1.0e", 2.5},
              {"1e", 1.0},
              {"1.2.5", 1.25},
              {"-", -0.0},
