@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace qel {
+namespace qel::internal {
 
 namespace {
 
@@ -105,4 +105,4 @@ std::size_t LastOccurrence::in(std::string_view text) const noexcept {
     return std::string_view::npos;
 }
 
-}  // namespace qel
+}  // namespace qel::internal

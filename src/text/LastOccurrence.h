@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace qel {
+namespace qel::internal {
 
 class LastOccurrence {
   public:
@@ -32,4 +32,4 @@ class LastOccurrence {
     std::vector<std::size_t> borders_;
 };
 
-}  // namespace qel
+}  // namespace qel::internal

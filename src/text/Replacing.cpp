@@ -78,7 +78,7 @@ bool isSearchable(char const* part) noexcept {
 
 /// Replaces the last occurrence until there is none.
 std::string replaceAll(char const* s, std::string_view part, std::string_view substitute) {
-    LastOccurrence const last(part);
+    internal::LastOccurrence const last(part);
     SplitText text(s);
     // No occurrence starts in the tail: it lies behind the place of the last occurrence. So the
     // next one starts in the head and reaches into the tail by less than its own length.
@@ -130,7 +130,7 @@ std::string CharFunctions::ReplaceLastOccurence(char const* s, char const* old,
     std::string text(s);
     if (!isSearchable(old) || replacement == nullptr)
         return text;
-    std::size_t const position = LastOccurrence(old).in(text);
+    std::size_t const position = internal::LastOccurrence(old).in(text);
     if (position != std::string::npos)
         text.replace(position, std::strlen(old), replacement);
     return text;

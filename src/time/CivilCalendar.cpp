@@ -3,7 +3,7 @@
 // given in the margin are those of the days since.
 #include "CivilCalendar.h"
 
-namespace qel {
+namespace qel::internal {
 
 namespace {
 
@@ -50,4 +50,4 @@ std::tm breakDownCivilTime(long long secondsSinceDayZero) noexcept {
     return fields;
 }
 
-}  // namespace qel
+}  // namespace qel::internal

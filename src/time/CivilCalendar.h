@@ -5,7 +5,7 @@
 
 #include <ctime>
 
-namespace qel {
+namespace qel::internal {
 
 inline constexpr long long secondsPerDay = 86400;
 /// From the start of Julian day 0 to 1970-01-01, which is Julian day 2440588.
@@ -19,4 +19,4 @@ inline constexpr long long secondsFromDayZeroToEpoch = 2440588 * secondsPerDay;
 /// daylight-saving flag are -1, for unknown.
 [[nodiscard]] std::tm breakDownCivilTime(long long secondsSinceDayZero) noexcept;
 
-}  // namespace qel
+}  // namespace qel::internal

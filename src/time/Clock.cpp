@@ -30,14 +30,15 @@ bool mustSynchronise(unsigned int counter, unsigned int previous) noexcept {
 }
 
 long long correctionFor(unsigned int counter) noexcept {
-    WallClockTime const now = readWallClock();
+    internal::WallClockTime const now = internal::readWallClock();
     return now.seconds * 1000 - counter + now.microseconds / 1000;
 }
 
 }  // namespace
 
 unsigned int Date::GetMillisecondsSinceStartup() noexcept {
-    return static_cast<unsigned int>(static_cast<long long>(microsecondsSinceStartup()) / 1000);
+    return static_cast<unsigned int>(static_cast<long long>(internal::microsecondsSinceStartup())
+                                     / 1000);
 }
 
 long long Date::GetCurrentSystemTime() noexcept {

@@ -51,9 +51,10 @@ Date::Date(unsigned int year, unsigned int month, unsigned int day, unsigned int
         fields.tm_isdst = -1;
         msSinceEpoch = countFromLocalTime(fields, millisecond);
     } else {
-        long long const days = julianDayNumber(year, month, day);
+        long long const days = internal::julianDayNumber(year, month, day);
         unsigned int const secondOfDay = hour * 3600 + second + minute * 60;
-        long long const seconds = days * secondsPerDay + secondOfDay - secondsFromDayZeroToEpoch;
+        long long const seconds =
+            days * internal::secondsPerDay + secondOfDay - internal::secondsFromDayZeroToEpoch;
         msSinceEpoch = seconds * msPerSecond + millisecond;
     }
 }

@@ -9,6 +9,8 @@ namespace qel {
 
 namespace {
 
+using internal::ConvertMillisecondsToLocalTime;
+
 constexpr long long libraryBegin_s = 86400;     // 1970-01-02T00:00:00Z
 constexpr long long libraryEnd_s = 2145916800;  // 2038-01-01T00:00:00Z
 constexpr long long year1971_s = 31536000;      // 1971-01-01T00:00:00Z
@@ -21,7 +23,7 @@ int offsetOf1971_s() noexcept {
 
 }  // namespace
 
-std::tm ConvertMillisecondsToLocalTime(long long msSinceEpoch) noexcept {
+std::tm internal::ConvertMillisecondsToLocalTime(long long msSinceEpoch) noexcept {
     long long const seconds = msSinceEpoch / 1000;
     if (seconds < libraryBegin_s || seconds >= libraryEnd_s)
         return breakDownCivilTime(seconds + offsetOf1971_s() + secondsFromDayZeroToEpoch);

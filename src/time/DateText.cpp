@@ -82,14 +82,14 @@ void putDate(DateWriter& out, std::tm const& fields, bool withDayName, bool comp
 }  // namespace
 
 std::string Date::GetDayOfWeekName() const noexcept {
-    return dayName(ConvertMillisecondsToLocalTime(msSinceEpoch));
+    return dayName(internal::ConvertMillisecondsToLocalTime(msSinceEpoch));
 }
 
 std::string Date::ConvertToString(bool withDate, bool withTime, bool withSeconds, bool withDayName,
                                   bool compact) const noexcept {
     if (!withDate && !withTime)
         return {};
-    std::tm const fields = ConvertMillisecondsToLocalTime(msSinceEpoch);
+    std::tm const fields = internal::ConvertMillisecondsToLocalTime(msSinceEpoch);
     DateWriter out;
     if (withDate)
         putDate(out, fields, withDayName, compact);
@@ -107,7 +107,7 @@ std::string Date::ConvertToString(bool withDate, bool withTime, bool withSeconds
 }
 
 std::string Date::GetDDMMYYYY(char const* separator) const noexcept {
-    std::tm const fields = ConvertMillisecondsToLocalTime(msSinceEpoch);
+    std::tm const fields = internal::ConvertMillisecondsToLocalTime(msSinceEpoch);
     DateWriter day;
     day.putField(fields.tm_mday);
     if (separator == nullptr)

@@ -3,7 +3,7 @@
 
 #include <sys/time.h>
 
-namespace qel {
+namespace qel::internal {
 
 WallClockTime readWallClock() noexcept {
     timeval now = {};
@@ -11,4 +11,4 @@ WallClockTime readWallClock() noexcept {
     return {now.tv_sec, static_cast<int>(now.tv_usec)};
 }
 
-}  // namespace qel
+}  // namespace qel::internal

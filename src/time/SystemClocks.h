@@ -2,7 +2,7 @@
 // Clock.cpp; the tests of that put a script in their place.
 #pragma once
 
-namespace qel {
+namespace qel::internal {
 
 struct WallClockTime {
     long long seconds;  // since the epoch
@@ -15,4 +15,4 @@ struct WallClockTime {
 /// The time of day, which may be set and adjusted at any moment.
 [[nodiscard]] WallClockTime readWallClock() noexcept;
 
-}  // namespace qel
+}  // namespace qel::internal

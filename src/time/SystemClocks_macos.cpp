@@ -5,7 +5,7 @@
 
 #include <CoreServices/CoreServices.h>
 
-namespace qel {
+namespace qel::internal {
 
 unsigned long long microsecondsSinceStartup() noexcept {
     UnsignedWide counter = {};
@@ -17,6 +17,6 @@ unsigned long long microsecondsSinceStartup() noexcept {
     return static_cast<unsigned long long>(counter.hi) << 32 | counter.lo;
 }
 
-}  // namespace qel
+}  // namespace qel::internal
 
 #endif

@@ -5,7 +5,7 @@
 
 #include <ctime>
 
-namespace qel {
+namespace qel::internal {
 
 unsigned long long microsecondsSinceStartup() noexcept {
     timespec now = {};
@@ -15,6 +15,6 @@ unsigned long long microsecondsSinceStartup() noexcept {
            + static_cast<unsigned int>(now.tv_nsec) / 1000;
 }
 
-}  // namespace qel
+}  // namespace qel::internal
 
 #endif

@@ -34,9 +34,10 @@ TEST(CivilCalendar, AgreesWithTheCivilCalendarOnEveryDayOfTenThousandYears) {
         int const fullYear = static_cast<int>(civil.year());
         auto const month = static_cast<unsigned int>(civil.month());
         auto const dayOfMonth = static_cast<unsigned int>(civil.day());
-        ASSERT_EQ(qel::julianDayNumber(static_cast<unsigned int>(fullYear), month, dayOfMonth),
-                  julianDay);
-        std::tm const fields = qel::breakDownCivilTime(julianDay * secondsPerDay + 45296);
+        ASSERT_EQ(
+            qel::internal::julianDayNumber(static_cast<unsigned int>(fullYear), month, dayOfMonth),
+            julianDay);
+        std::tm const fields = qel::internal::breakDownCivilTime(julianDay * secondsPerDay + 45296);
         auto const weekday = static_cast<int>(std::chrono::weekday(day).c_encoding());
         ASSERT_EQ(listOf(fields), std::tuple(fullYear, month, static_cast<int>(dayOfMonth), 12, 34,
                                              56, weekday, -1, -1))
@@ -46,7 +47,8 @@ TEST(CivilCalendar, AgreesWithTheCivilCalendarOnEveryDayOfTenThousandYears) {
 
 TEST(CivilCalendar, BreaksEverySecondOfADayDown) {
     for (int second = 0; second < secondsPerDay; ++second) {
-        std::tm const fields = qel::breakDownCivilTime(julianDayOfEpoch * secondsPerDay + second);
+        std::tm const fields =
+            qel::internal::breakDownCivilTime(julianDayOfEpoch * secondsPerDay + second);
         ASSERT_EQ(fields.tm_hour * 3600 + fields.tm_min * 60 + fields.tm_sec, second);
         ASSERT_TRUE(fields.tm_min < 60 && fields.tm_sec < 60) << second;
         ASSERT_EQ(fields.tm_mday, 1) << second;
@@ -58,12 +60,14 @@ TEST(CivilCalendar, FollowsThePlainStepsForEveryNumber) {
     for (int i = 0; i < 500000; ++i) {
         // As far as counts of milliseconds reach, and of every magnitude.
         long long const seconds = static_cast<long long>(random()) / 1000 >> (random() % 40);
-        ASSERT_EQ(listOf(qel::breakDownCivilTime(seconds)), listOf(model::breakDown(seconds)))
+        ASSERT_EQ(listOf(qel::internal::breakDownCivilTime(seconds)),
+                  listOf(model::breakDown(seconds)))
             << seconds;
         auto const year = static_cast<unsigned int>(random());
         auto const month = static_cast<unsigned int>(random() % 20);
         auto const day = static_cast<unsigned int>(random());
-        ASSERT_EQ(qel::julianDayNumber(year, month, day), model::julianDayNumber(year, month, day))
+        ASSERT_EQ(qel::internal::julianDayNumber(year, month, day),
+                  model::julianDayNumber(year, month, day))
             << year << ' ' << month << ' ' << day;
     }
 }
@@ -79,7 +83,7 @@ class NumberOfFarDay : public testing::TestWithParam<NumberedDay> {};
 
 TEST_P(NumberOfFarDay, IsThisOne) {
     NumberedDay const& row = GetParam();
-    EXPECT_EQ(qel::julianDayNumber(row.year, row.month, row.day), row.number);
+    EXPECT_EQ(qel::internal::julianDayNumber(row.year, row.month, row.day), row.number);
 }
 
 // Years below zero are those before 1 BC: right back to March of 4801 BC, as the calendar has it.
@@ -123,7 +127,7 @@ class BreakdownOfFarTime : public testing::TestWithParam<BrokenDown> {};
 
 TEST_P(BreakdownOfFarTime, IsThisOne) {
     BrokenDown const& row = GetParam();
-    EXPECT_EQ(listOf(qel::breakDownCivilTime(row.seconds)),
+    EXPECT_EQ(listOf(qel::internal::breakDownCivilTime(row.seconds)),
               std::tuple(row.year, row.month, row.day, row.hour, row.minute, row.second,
                          row.dayOfWeek, -1, -1));
 }

@@ -15,8 +15,8 @@
 
 namespace {
 
-using qel::ConvertMillisecondsToLocalTime;
 using qel::Date;
+using qel::internal::ConvertMillisecondsToLocalTime;
 using DateFieldsInZone = InZone;
 
 constexpr long long libraryBegin = 86400000;     // 1970-01-02

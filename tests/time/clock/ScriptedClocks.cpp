@@ -3,7 +3,7 @@
 
 ScriptedClocks script;
 
-namespace qel {
+namespace qel::internal {
 
 unsigned long long microsecondsSinceStartup() noexcept {
     ++script.startupReads;
@@ -15,4 +15,4 @@ WallClockTime readWallClock() noexcept {
     return script.wallClock;
 }
 
-}  // namespace qel
+}  // namespace qel::internal

@@ -5,7 +5,7 @@
 
 struct ScriptedClocks {
     unsigned long long startup_us = 0;
-    qel::WallClockTime wallClock = {0, 0};
+    qel::internal::WallClockTime wallClock = {0, 0};
     int startupReads = 0;
     int wallClockReads = 0;
 };
