@@ -1,0 +1,118 @@
+// File names as text: separators, parents, extensions. The file system is never asked.
+#include "qel/File.h"
+
+#include "qel/CharFunctions.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace qel {
+
+namespace {
+
+/// The position of the last slash or backslash; -1 when there is none.
+int lastSeparator(char const* path) noexcept {
+    return CharFunctions::IndexOfLastOccurence(path, "/\\");
+}
+
+char const* fileName(char const* path) noexcept {
+    return path + (lastSeparator(path) + 1);
+}
+
+char const* extensionOf(char const* path) noexcept {
+    char const* const dot = std::strrchr(path, '.');
+    return dot == nullptr ? path + std::strlen(path) : dot + 1;
+}
+
+/// The text up to its last dot. That is where the last occurrence of the dot and the extension
+/// starts, and it ends the text: cutting it out leaves what stands before it.
+std::string withoutExtension(char const* text) {
+    char const* const dot = std::strrchr(text, '.');
+    return dot == nullptr ? text : std::string(text, dot);
+}
+
+}  // namespace
+
+std::string File::ConvertFileNameToUnixStyle(char const* path) noexcept {
+    return CharFunctions::Replace(path, "\\", "/");
+}
+
+std::string File::ConvertFileNameToWindowsStyle(char const* path) noexcept {
+    return CharFunctions::Replace(path, "/", "\\");
+}
+
+std::string File::ConvertFileNameToNativeStyle(char const* path) noexcept {
+    return ConvertFileNameToUnixStyle(path);
+}
+
+bool File::IsFileNameNativeStyle(char const* path) noexcept {
+    return !CharFunctions::Contains(path, "\\");
+}
+
+std::string File::GetParentFolder(char const* path) noexcept {
+    return std::string(path, static_cast<std::size_t>(std::max(lastSeparator(path), 0)));
+}
+
+std::string File::GetFileName(char const* path) noexcept {
+    return fileName(path);
+}
+
+bool File::HasExtension(char const* path) noexcept {
+    return CharFunctions::Contains(path, ".");
+}
+
+std::string File::GetExtension(char const* path) noexcept {
+    return extensionOf(path);
+}
+
+std::string File::GetFileNameWithoutExtension(char const* path) noexcept {
+    return withoutExtension(fileName(path));
+}
+
+std::string File::GetFullFileNameWithoutExtension(char const* path) noexcept {
+    return withoutExtension(path);
+}
+
+std::string File::AppendStringBeforeExtension(char const* path, char const* text) noexcept {
+    return withoutExtension(path) + text + extensionOf(path);
+}
+
+std::string File::AppendExtension(char const* path, char const* extension) noexcept {
+    std::string result(path);
+    if (HasThisExtension(path, extension, true))
+        return result;
+    if (!result.empty() && result.back() == '.')
+        result.pop_back();
+    if (!CharFunctions::StartsWith(extension, "."))
+        result += '.';
+    return result += extension;
+}
+
+bool File::HasThisExtension(char const* path, char const* extension, bool ignoreCase) noexcept {
+    char const* const wanted =
+        CharFunctions::StartsWith(extension, ".") ? extension + 1 : extension;
+    return ignoreCase ? CharFunctions::AreEqualIgnoreCase(extensionOf(path), wanted)
+                      : CharFunctions::AreEqual(extensionOf(path), wanted);
+}
+
+bool File::HasOneOfTheseExtensions(char const* path, std::vector<std::string> const& extensions,
+                                   bool ignoreCase) noexcept {
+    return std::any_of(extensions.begin(), extensions.end(), [&](std::string const& extension) {
+        return HasThisExtension(path, extension.c_str(), ignoreCase);
+    });
+}
+
+std::string File::MakeFullPath(char const* file, char const* folder) noexcept {
+    std::string path(folder);
+    // The empty text ends with everything, and so no slash comes behind an empty folder.
+    if (!CharFunctions::EndsWith(folder, "/"))
+        path += '/';
+    path += fileName(file);
+    return ConvertFileNameToUnixStyle(path.c_str());
+}
+
+std::string File::CleanFileName(char const* name) noexcept {
+    return CharFunctions::Replace(name, " ", "_");
+}
+
+}  // namespace qel
