@@ -1,21 +1,7 @@
 #!/bin/sh
 # What qel-dates prints, and its exit codes. Takes the path of the program.
 set -u
-program=$1
-failures=0
-
-expect() { # exit code, everything printed on both streams, arguments of the program
-    code=$1
-    printed=$2
-    shift 2
-    actual=$("$program" "$@" 2>&1)
-    actual_code=$?
-    if [ "$actual_code" != "$code" ] || [ "$actual" != "$printed" ]; then
-        printf '%s %s: exit code %s, not %s; printed:\n%s\nnot:\n%s\n' \
-            "$program" "$*" "$actual_code" "$code" "$actual" "$printed"
-        failures=$((failures + 1))
-    fi
-}
+. "$(dirname "$0")/expect.sh"
 
 usage='usage: qel-dates DD/MM/YYYY [DD/MM/YYYY]'
 
@@ -54,10 +40,6 @@ for text in 21112012 '21\11\2012' //21112012 5./11/2012 21/11/2012/ ''; do
     expect 2 "qel-dates: '$text' $no_date" "$text"
 done
 
-# Complaints go to the standard error.
-if [ -n "$("$program" tomorrow 2>/dev/null)" ]; then
-    echo "$program tomorrow: prints on the standard output"
-    failures=$((failures + 1))
-fi
+expect_complaint_on_stderr tomorrow
 
 [ "$failures" = 0 ]
