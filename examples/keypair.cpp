@@ -1,12 +1,16 @@
-// Re-creates an RSA key pair from integer seeds, applies one key to a message and undoes it with
-// the other. The same options print the same keys on every machine.
+// Re-creates an RSA key pair from integer seeds, applies one key to a message, undoes it with the
+// other, and keeps both keys in files for a moment. The same options print the same keys on every
+// machine.
 #include "qel/CharFunctions.h"
 #include "qel/Date.h"
+#include "qel/File.h"
+#include "qel/Folder.h"
 #include "qel/LargeInteger.h"
 #include "qel/RSAKey.h"
 #include "qel/Version.h"
 
 #include <charconv>
+#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -122,6 +126,34 @@ bool survivesTextForm(qel::RSAKey const& key) {
     return qel::RSAKey(key.toString().c_str()) == key;
 }
 
+/// Writes the key to a file of the folder, reads it back and deletes the file.
+bool survivesAFile(qel::RSAKey const& key, std::string const& folder, char const* name) {
+    std::string const path = qel::Folder::ConcatenatePaths(folder.c_str(), name);
+    std::string text;
+    bool const same = qel::File::WriteStringToFile(key.toString(), path.c_str(), false)
+                      && qel::File::ReadStringFromFile(text, path.c_str())
+                      && qel::RSAKey(text.c_str()) == key;
+    std::cout << "  " << path << ", " << qel::File::GetSize(path.c_str()) << " bytes\n";
+    return qel::File::Delete(path.c_str()) && same;
+}
+
+/// Keeps both keys in files of a new folder, and leaves nothing behind.
+bool surviveFiles(qel::RSAKey const& first, qel::RSAKey const& second) {
+    std::string const name =
+        "qel-keypair-" + std::to_string(qel::Date::GetCurrentDate().GetMillisecondsSinceEpoch());
+    std::string const folder =
+        qel::Folder::ConcatenatePaths(std::filesystem::temp_directory_path().c_str(), name.c_str());
+    if (!qel::Folder::MakeDirectory(folder.c_str()))
+        return false;
+    std::cout << "Files\n";
+    bool same = survivesAFile(first, folder, "first.key");
+    same = survivesAFile(second, folder, "second.key") && same;
+    std::cout << '\n';
+    std::error_code ignored;
+    std::filesystem::remove(folder, ignored);
+    return same && !qel::File::Exists(folder.c_str());
+}
+
 void printBanner() {
     qel::Date const now = qel::Date::GetCurrentDate();
     std::cout << qel::GetVersion() << "\ntoday is "
@@ -150,7 +182,8 @@ int demonstrate(Options const& options) {
 
     agrees = agrees && restored == options.message;
     agrees = agrees && survivesTextForm(first) && survivesTextForm(second);
-    std::cout << (agrees ? "The message came back, and both keys survive their text form.\n"
+    agrees = surviveFiles(first, second) && agrees;
+    std::cout << (agrees ? "The message came back, and both keys survive as text and in files.\n"
                          : "Something does not agree.\n");
     return agrees ? 0 : exitDisagreement;
 }

@@ -10,10 +10,10 @@ namespace qel::internal {
 unsigned long long microsecondsSinceStartup() noexcept {
     UnsignedWide counter = {};
 // The system's headers call it deprecated; it is still the counter that the clock is defined by.
-#pragma clang diagnostic push
-#pragma clang diagnostic ignored "-Wdeprecated-declarations"
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
     Microseconds(&counter);
-#pragma clang diagnostic pop
+#pragma GCC diagnostic pop
     return static_cast<unsigned long long>(counter.hi) << 32 | counter.lo;
 }
 

@@ -41,7 +41,7 @@ comes_back() { # message, further arguments
     message=$1
     shift
     printed=$("$program" --message "$message" "$@") || fail "$message: exit code $?"
-    for line in "  as a text   $message" 'The message came back, and both keys survive their text form.'; do
+    for line in "  as a text   $message" 'The message came back, and both keys survive as text and in files.'; do
         case $printed in
         *"$line"*) ;;
         *) fail "$message: no line '$line' in: $printed" ;;
@@ -49,11 +49,16 @@ comes_back() { # message, further arguments
     done
 }
 
+# Files stand in a folder of their own for a moment; nothing is left of it.
+temporary=$(mktemp -d)
+export TMPDIR="$temporary"
 comes_back 'short' --bits 128
 comes_back 'much longer than the modulus, so digit by digit' --bits 64 --seeds 3,-4
 comes_back "$(printf 'caf\303\251')" --bits 64 --seeds 1
 
 # Both halves of these seeds draw the same prime: nothing can come back, and it is said so.
 "$program" --bits 64 --seeds 5,5 >/dev/null && fail 'equal primes: exit code 0'
+
+rmdir "$temporary" || fail "left behind in $temporary: $(ls -a "$temporary")"
 
 [ "$failures" = 0 ]
