@@ -236,6 +236,11 @@ class LargeInteger {
   private:
     friend struct LargeIntegerPeer;
 
+    LargeInteger(std::uint64_t const* limbs, int top, bool flag) noexcept;
+    void overwrite(int oldTop, std::uint64_t const* value, int top) noexcept;
+    void subtractWhileLarger(LargeInteger const& b) noexcept;
+    void raise(LargeInteger const& exponent, LargeInteger const& modulus) noexcept;
+
     void refreshHighestBit(long long bound) noexcept;
     void addMagnitude(LargeInteger const& b) noexcept;
     void subtractMagnitude(LargeInteger const& b) noexcept;

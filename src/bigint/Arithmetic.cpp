@@ -1,10 +1,9 @@
 // Signed addition, subtraction and multiplication.
 #include "qel/LargeInteger.h"
 
-#include "Words.h"
+#include "Product.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace qel {
 
@@ -75,25 +74,21 @@ LargeInteger& LargeInteger::operator-=(LargeInteger const& b) noexcept {
     return *this;
 }
 
-// Shift and add over the set bits of the left operand.
 LargeInteger& LargeInteger::operator*=(LargeInteger const& b) noexcept {
-    LargeInteger product;
-    highestBit = getHighestBit();
-    bool const leftNegative = isNegative();
-    negative = false;
-    for (long long i = 0; i <= highestBit; ++i) {
-        if ((*this)[static_cast<int>(i)] == 0)
-            continue;
-        LargeInteger term(b);
-        term.negative = false;
-        term.shiftBits(static_cast<int>(i), 0);
-        product += term;
-    }
-    // Read only now: in x *= x the sign of b is gone, so the product keeps the sign of x.
-    bool const rightNegative = b.isNegative();
-    std::swap(data, product.data);
-    std::swap(size, product.size);
-    std::swap(highestBit, product.highestBit);
+    Magnitude const left{data, getHighestBit()};
+    Magnitude const right{b.data, b.getHighestBit()};
+    bool const leftNegative = negative && left.top >= 0;
+    // In x *= x the sign of b goes with the one of x before it is read, so the product keeps the
+    // sign of x.
+    bool const rightNegative = this != &b && b.negative && right.top >= 0;
+    Product const product(left, right);
+    int const capacity = productCapacity(left, right.top);
+    std::uint32_t* const words = zeroedBuffer(capacity);
+    storeWords(words, product.limbs, product.top);
+    std::free(data);
+    data = words;
+    size = capacity;
+    highestBit = product.top;
     negative = leftNegative != rightNegative;
     return *this;
 }
@@ -112,8 +107,8 @@ LargeInteger LargeInteger::operator-(LargeInteger const& b) const noexcept {
 }
 
 LargeInteger LargeInteger::operator*(LargeInteger const& b) const noexcept {
-    LargeInteger work(*this);
-    return LargeInteger(work *= b);
+    Product const product({data, getHighestBit()}, {b.data, b.getHighestBit()});
+    return LargeInteger(product.limbs, product.top, isNegative() != b.isNegative());
 }
 
 LargeInteger LargeInteger::operator-() const noexcept {

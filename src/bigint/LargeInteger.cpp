@@ -5,44 +5,22 @@
 // words above the highest word written.
 #include "qel/LargeInteger.h"
 
-#include "Words.h"
+#include "Storage.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <cstring>
 #include <utility>
 
 namespace qel {
 
 namespace {
 
-constexpr int initialSize = 4;
 /// From this capacity on, a reset to zero releases the buffer.
 constexpr int releaseSize = 17;
 
-std::uint32_t* checkedBuffer(void* buffer) noexcept {
-    if (buffer == nullptr)
-        endProcess("out of memory");
-    return static_cast<std::uint32_t*>(buffer);
-}
-
-std::size_t bytesFor(int size) noexcept {
-    return (static_cast<std::size_t>(size) + 1) * sizeof(std::uint32_t);
-}
-
-std::uint32_t* zeroedBuffer(int size) noexcept {
-    return checkedBuffer(std::calloc(1, bytesFor(size)));
-}
-
 std::uint32_t* copiedBuffer(std::uint32_t const* source, int size) noexcept {
-    std::uint32_t* const buffer = checkedBuffer(std::malloc(bytesFor(size)));
+    std::uint32_t* const buffer = checkedBuffer<std::uint32_t>(std::malloc(bytesFor(size)));
     std::memcpy(buffer, source, bytesFor(size));
     return buffer;
-}
-
-/// The capacity of a tight copy of a value whose top bit is at or below `bound`.
-int tightSize(int bound) noexcept {
-    return std::max(initialSize, wordIndex(bound) + 1);
 }
 
 /// |v| as an unsigned value: negating before widening would overflow for the most negative v.
@@ -71,6 +49,12 @@ LargeInteger::LargeInteger(LargeInteger const& source) noexcept
     : data(copiedBuffer(source.data, tightSize(source.highestBit))),
       size(tightSize(source.highestBit)), highestBit(source.getHighestBit()),
       negative(source.negative) {}
+
+// A tight value, as a copy would be.
+LargeInteger::LargeInteger(std::uint64_t const* limbs, int top, bool flag) noexcept
+    : data(zeroedBuffer(tightSize(top))), size(tightSize(top)), highestBit(top), negative(flag) {
+    storeWords(data, limbs, top);
+}
 
 LargeInteger::~LargeInteger() noexcept {
     std::free(data);
@@ -107,13 +91,10 @@ void LargeInteger::clear() noexcept {
 }
 
 void LargeInteger::ensureSize(int w) noexcept {
-    if (w + 2LL < size)
+    int const newSize = grownSize(size, w);
+    if (newSize == size)
         return;
-    long long const grown = (3LL * w + 6) / 2;
-    if (grown > INT_MAX)
-        endProcessTooWide();
-    int const newSize = static_cast<int>(grown);
-    data = checkedBuffer(std::realloc(data, bytesFor(newSize)));
+    data = checkedBuffer<std::uint32_t>(std::realloc(data, bytesFor(newSize)));
     std::fill(data + size, data + newSize, 0U);
     size = newSize;
 }

@@ -1,6 +1,10 @@
 // Greatest common divisor, modular inverse, modular power.
 #include "qel/LargeInteger.h"
 
+#include "Storage.h"
+#include "limbs/Montgomery.h"
+
+#include <algorithm>
 #include <cassert>
 #include <cstdlib>
 #include <utility>
@@ -14,13 +18,24 @@ LargeInteger LargeInteger::simpleGCD(LargeInteger* a, LargeInteger* b) noexcept 
     LargeInteger* y = b;
     while (!x->isZero()) {
         if (y->compareAbsolute(*x) > 0) {
-            *y -= *x;
+            y->subtractWhileLarger(*x);
             std::swap(x, y);
         } else {
-            *x -= *y;
+            x->subtractWhileLarger(*y);
         }
     }
     return LargeInteger(*y);
+}
+
+/// What repeated subtraction of b leaves: the remainder, in the same buffer and under the same
+/// bound. A b of zero or of another sign is subtracted once: that never comes to an end.
+void LargeInteger::subtractWhileLarger(LargeInteger const& b) noexcept {
+    if (b.isZero() || b.isNegative() != isNegative()) {
+        *this -= b;
+        return;
+    }
+    *this %= b;
+    negative = isNegative();
 }
 
 LargeInteger LargeInteger::findGreatestCommonDivisor(LargeInteger other) const noexcept {
@@ -92,6 +107,12 @@ void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) 
     LargeInteger base(1);
     swapWith(base);
     base %= modulus;
+    if (!exponent.isZero() && !base.isZero() && !base.isNegative() && modulus[0] != 0) {
+        *this = base;
+        raise(exponent, modulus);
+        return;
+    }
+    // Even moduli, and the signs that squaring in place gives a negative base.
     while (!exponent.isZero()) {
         if (exponent[0] != 0) {
             *this *= base;
@@ -101,6 +122,34 @@ void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) 
         base %= modulus;
         exponent >>= 1;
     }
+}
+
+/// This value's power modulo an odd number, for a base below it and an exponent, neither zero.
+///
+/// Bound and capacity are those of the last product before its reduction.
+void LargeInteger::raise(LargeInteger const& exponent, LargeInteger const& modulus) noexcept {
+    std::size_t const count = limbCount(modulus.highestBit);
+    std::size_t const exponentCount = limbCount(exponent.getHighestBit());
+    int const top = exponent.getHighestBit();
+    Workspace workspace(5 * count + exponentCount + limbs::powerScratch(count, top));
+    limbs::Limb* const m = workspace.take(count);
+    limbs::Limb* const base = workspace.take(count);
+    limbs::Limb* const lower = workspace.take(count);
+    limbs::Limb* const highest = workspace.take(count);
+    limbs::Limb* const result = workspace.take(count);
+    limbs::Limb* const e = workspace.take(exponentCount);
+    loadLimbs(m, modulus.data, modulus.highestBit);
+    std::fill(base, base + count, limbs::Limb{0});
+    loadLimbs(base, data, getHighestBit());
+    loadLimbs(e, exponent.data, top);
+    limbs::power(result, lower, highest, base, e, top, m, count, workspace.take(0));
+
+    LargeInteger const left(lower, static_cast<int>(topBit(lower, count)), false);
+    LargeInteger const right(highest, static_cast<int>(topBit(highest, count)), false);
+    *this = left;
+    *this *= right;
+    if (!isZero())
+        overwrite(highestBit, result, static_cast<int>(topBit(result, count)));
 }
 
 }  // namespace qel

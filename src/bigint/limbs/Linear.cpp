@@ -1,0 +1,76 @@
+// Work that is linear in the limbs: sums, differences, comparison, shifts.
+#include "Limbs.h"
+
+namespace qel::limbs {
+
+Limb add(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept {
+    Limb carry = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        DoubleLimb const sum = DoubleLimb{a[i]} + b[i] + carry;
+        out[i] = static_cast<Limb>(sum);
+        carry = static_cast<Limb>(sum >> bitsPerLimb);
+    }
+    return carry;
+}
+
+Limb addLimb(Limb* out, Limb const* a, std::size_t count, Limb carry) noexcept {
+    for (std::size_t i = 0; i < count; ++i) {
+        Limb const sum = a[i] + carry;
+        carry = sum < carry ? 1 : 0;
+        out[i] = sum;
+    }
+    return carry;
+}
+
+Limb subtract(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept {
+    Limb borrow = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        DoubleLimb const difference = DoubleLimb{a[i]} - b[i] - borrow;
+        out[i] = static_cast<Limb>(difference);
+        borrow = static_cast<Limb>(difference >> bitsPerLimb) & 1;
+    }
+    return borrow;
+}
+
+Limb subtractLimb(Limb* out, Limb const* a, std::size_t count, Limb borrow) noexcept {
+    for (std::size_t i = 0; i < count; ++i) {
+        Limb const limb = a[i];
+        out[i] = limb - borrow;
+        borrow = limb < borrow ? 1 : 0;
+    }
+    return borrow;
+}
+
+int compare(Limb const* a, Limb const* b, std::size_t count) noexcept {
+    for (std::size_t i = count; i-- > 0;) {
+        if (a[i] != b[i])
+            return a[i] > b[i] ? 1 : -1;
+    }
+    return 0;
+}
+
+std::size_t significant(Limb const* a, std::size_t count) noexcept {
+    while (count > 0 && a[count - 1] == 0)
+        --count;
+    return count;
+}
+
+// From the top down, so that out may be a.
+Limb shiftLeft(Limb* out, Limb const* a, std::size_t count, int bits) noexcept {
+    int const rest = bitsPerLimb - bits;
+    Limb const top = a[count - 1] >> rest;
+    for (std::size_t i = count - 1; i > 0; --i)
+        out[i] = (a[i] << bits) | (a[i - 1] >> rest);
+    out[0] = a[0] << bits;
+    return top;
+}
+
+// From the bottom up, so that out may be a.
+void shiftRight(Limb* out, Limb const* a, std::size_t count, int bits) noexcept {
+    int const rest = bitsPerLimb - bits;
+    for (std::size_t i = 0; i + 1 < count; ++i)
+        out[i] = (a[i] >> bits) | (a[i + 1] << rest);
+    out[count - 1] = a[count - 1] >> bits;
+}
+
+}  // namespace qel::limbs

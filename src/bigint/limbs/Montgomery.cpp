@@ -1,0 +1,183 @@
+// Powers by Yao's method ("On the evaluation of powers", 1976) with windows of odd digits
+// (Knuth 4.6.3): from the lowest bit up, the current power base^(2^i) is multiplied into the bucket
+// of the window that starts at bit i; at the end the buckets are joined. As many multiplications as
+// with windows from the top, and the last factor comes out by itself.
+#include "Montgomery.h"
+
+#include "Kernels.h"
+#include "Thresholds.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+
+namespace qel::limbs {
+
+namespace {
+
+/// Products modulo one odd number; all numbers have its count of limbs.
+class Context {
+  public:
+    Context(Limb const* m, std::size_t limbCount, Limb* productAndScratch) noexcept
+        : modulus(m), count(limbCount), inverse(negatedInverse(m[0])), product(productAndScratch),
+          scratch(productAndScratch + 2 * limbCount) {}
+
+    void multiply(Limb* out, Limb const* a, Limb const* b) const noexcept {
+        limbs::multiply(product, a, count, b, count, scratch);
+        kernels().reduce(out, product, modulus, count, inverse);
+    }
+
+    void square(Limb* out, Limb const* a) const noexcept {
+        limbs::square(product, a, count, scratch);
+        kernels().reduce(out, product, modulus, count, inverse);
+    }
+
+    /// Out of Montgomery's representation.
+    void leave(Limb* out, Limb const* a) const noexcept {
+        std::copy(a, a + count, product);
+        std::fill(product + count, product + 2 * count, Limb{0});
+        kernels().reduce(out, product, modulus, count, inverse);
+    }
+
+    /// Into Montgomery's representation: a * 2^(64 count) mod modulus, by one long division.
+    void enter(Limb* out, Limb const* a) const noexcept;
+
+  private:
+    Limb const* modulus;
+    std::size_t count;
+    Limb inverse;
+    Limb* product;
+    Limb* scratch;
+};
+
+void Context::enter(Limb* out, Limb const* a) const noexcept {
+    int const shift = std::countl_zero(modulus[count - 1]);
+    if (count == 1) {
+        Limb const shifted[2] = {0, a[0]};
+        Limb quotient[2];
+        out[0] = divideLimb(quotient, shifted, 2, modulus[0]);
+        return;
+    }
+    // a and the modulus shifted up alike; the rest comes down again.
+    Limb* const divisor = scratch;
+    Limb* const quotient = scratch + count;
+    Limb* const dividend = product;
+    std::fill(dividend, dividend + count, Limb{0});
+    std::copy(a, a + count, dividend + count);
+    std::copy(modulus, modulus + count, divisor);
+    if (shift != 0) {
+        shiftLeft(divisor, divisor, count, shift);
+        shiftLeft(dividend + count, dividend + count, count, shift);
+    }
+    divideNormalized(quotient, dividend, 2 * count, divisor, count);
+    if (shift != 0)
+        shiftRight(out, dividend, count, shift);
+    else
+        std::copy(dividend, dividend + count, out);
+}
+
+/// Windows of this many bits cost the fewest multiplications for an exponent of `bits` bits:
+/// bits / (width + 1) in the loop, about 2^width to join the buckets.
+int windowWidth(long long bits) noexcept {
+    return bits < 24 ? 1 : bits < 80 ? 3 : bits < 240 ? 4 : bits < 768 ? 5 : 6;
+}
+
+bool bitOf(Limb const* e, long long i) noexcept {
+    return ((e[i / bitsPerLimb] >> (i % bitsPerLimb)) & 1) != 0;
+}
+
+constexpr std::size_t mostBuckets = 32;
+
+/// The powers gathered for each odd digit 1, 3, 5, ...
+struct Buckets {
+    Limb* limbs;
+    std::array<bool, mostBuckets> used;
+
+    void gather(Context const& context, std::size_t count, std::size_t index,
+                Limb const* factor) noexcept {
+        Limb* const bucket = limbs + index * count;
+        if (used[index])
+            context.multiply(bucket, bucket, factor);
+        else
+            std::copy(factor, factor + count, bucket);
+        used[index] = true;
+    }
+};
+
+/// The product of bucket[k]^(2k + 1), in bucket 0: with suffix products S_k = the product of the
+/// buckets from k up, it is S_0 * (S_1 * S_2 * ...)^2. False when no bucket is used.
+bool joinBuckets(Buckets& buckets, std::size_t bucketCount, Context const& context,
+                 std::size_t count, Limb* joined) noexcept {
+    bool any = false;
+    for (std::size_t k = bucketCount - 1; k > 0; --k) {
+        if (!buckets.used[k])
+            continue;
+        if (any)
+            context.multiply(joined, joined, buckets.limbs + k * count);
+        else
+            std::copy(buckets.limbs + k * count, buckets.limbs + (k + 1) * count, joined);
+        any = true;
+        buckets.gather(context, count, k - 1, buckets.limbs + k * count);
+    }
+    if (any) {
+        context.square(joined, joined);
+        buckets.gather(context, count, 0, joined);
+    }
+    return buckets.used[0];
+}
+
+}  // namespace
+
+// Newton: an inverse modulo 2^k is one modulo 2^(2k) after a step; odd * odd = 1 modulo 8.
+Limb negatedInverse(Limb odd) noexcept {
+    Limb inverse = odd;
+    for (int bits = 3; bits < bitsPerLimb; bits *= 2)
+        inverse *= 2 - odd * inverse;
+    return 0 - inverse;
+}
+
+// The current power and the joined product, the buckets, and what a context needs.
+std::size_t powerScratch(std::size_t count, long long top) noexcept {
+    std::size_t const buckets = std::size_t{1} << (windowWidth(top) - 1);
+    return (2 + buckets) * count + 2 * count
+           + std::max({multiplyScratch(count, count), squareScratch(count), 2 * count + 1});
+}
+
+void power(Limb* result, Limb* lower, Limb* highest, Limb const* base, Limb const* e, long long top,
+           Limb const* modulus, std::size_t count, Limb* scratch) noexcept {
+    int const width = windowWidth(top);
+    std::size_t const bucketCount = std::size_t{1} << (width - 1);
+    Limb* const current = scratch;
+    Limb* const joined = scratch + count;
+    Buckets buckets{scratch + 2 * count, {}};
+    Context const context(modulus, count, buckets.limbs + bucketCount * count);
+
+    context.enter(current, base);
+    for (long long i = 0; i < top;) {
+        if (!bitOf(e, i)) {
+            context.square(current, current);
+            ++i;
+            continue;
+        }
+        std::size_t digit = 0;
+        long long const end = std::min(i + width, top);
+        for (long long j = i; j < end; ++j)
+            digit |= static_cast<std::size_t>(bitOf(e, j)) << (j - i);
+        buckets.gather(context, count, digit / 2, current);
+        for (; i < end; ++i)
+            context.square(current, current);
+    }
+
+    context.leave(highest, current);
+    if (joinBuckets(buckets, bucketCount, context, count, joined)) {
+        context.leave(lower, buckets.limbs);
+        context.multiply(current, current, buckets.limbs);
+        context.leave(result, current);
+    } else {
+        std::fill(lower, lower + count, Limb{0});
+        lower[0] = 1;
+        std::copy(highest, highest + count, result);
+    }
+}
+
+}  // namespace qel::limbs

@@ -1,0 +1,12 @@
+// Where one algorithm takes over from another, in limbs. Measured on processors with mulx and adx;
+// a wrong value costs time and nothing else.
+#pragma once
+
+#include <cstddef>
+
+namespace qel::limbs {
+
+inline constexpr std::size_t karatsubaMultiply = 28;
+inline constexpr std::size_t karatsubaSquare = 44;
+
+}  // namespace qel::limbs

@@ -1,0 +1,57 @@
+// And, or, exclusive or: word by word on the magnitudes; the left operand's sign flag stays.
+#include "PlainInteger.h"
+
+#include "PlainWords.h"
+
+#include <algorithm>
+
+namespace plain {
+
+LargeInteger& LargeInteger::operator&=(LargeInteger const& b) noexcept {
+    for (int i = size - 1; i >= b.size; --i)
+        data[i] = 0;
+    for (int i = std::min(size, b.size) - 1; i >= 0; --i)
+        data[i] &= b.data[i];
+    refreshHighestBit(std::min(highestBit, b.highestBit));
+    return *this;
+}
+
+LargeInteger& LargeInteger::operator|=(LargeInteger const& b) noexcept {
+    if (b.highestBit < 0)
+        return *this;
+    ensureSize(wordIndex(b.highestBit));
+    for (int i = wordIndex(b.highestBit); i >= 0; --i)
+        data[i] |= b.data[i];
+    refreshHighestBit(std::max(highestBit, b.highestBit));
+    return *this;
+}
+
+LargeInteger& LargeInteger::operator^=(LargeInteger const& b) noexcept {
+    if (b.highestBit < 0)
+        return *this;
+    ensureSize(wordIndex(b.highestBit));
+    for (int i = wordIndex(b.highestBit); i >= 0; --i)
+        data[i] ^= b.data[i];
+    refreshHighestBit(std::max(highestBit, b.highestBit));
+    return *this;
+}
+
+// The binary operators return a copy of the working value, not the value itself: a copy has an
+// exact bound and a tight buffer.
+
+LargeInteger LargeInteger::operator&(LargeInteger const& b) const noexcept {
+    LargeInteger work(*this);
+    return LargeInteger(work &= b);
+}
+
+LargeInteger LargeInteger::operator|(LargeInteger const& b) const noexcept {
+    LargeInteger work(*this);
+    return LargeInteger(work |= b);
+}
+
+LargeInteger LargeInteger::operator^(LargeInteger const& b) const noexcept {
+    LargeInteger work(*this);
+    return LargeInteger(work ^= b);
+}
+
+}  // namespace plain
