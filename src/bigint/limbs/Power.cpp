@@ -2,7 +2,7 @@
 // (Knuth 4.6.3): from the lowest bit up, the current power base^(2^i) is multiplied into the bucket
 // of the window that starts at bit i; at the end the buckets are joined. As many multiplications as
 // with windows from the top, and the last factor comes out by itself.
-#include "Montgomery.h"
+#include "Power.h"
 
 #include "Kernels.h"
 #include "Thresholds.h"
@@ -15,10 +15,11 @@ namespace qel::limbs {
 
 namespace {
 
-/// Products modulo one odd number; all numbers have its count of limbs.
-class Context {
+/// Products modulo an odd number, in Montgomery's representation. All numbers have its count of
+/// limbs.
+class MontgomeryContext {
   public:
-    Context(Limb const* m, std::size_t limbCount, Limb* productAndScratch) noexcept
+    MontgomeryContext(Limb const* m, std::size_t limbCount, Limb* productAndScratch) noexcept
         : modulus(m), count(limbCount), inverse(negatedInverse(m[0])), product(productAndScratch),
           scratch(productAndScratch + 2 * limbCount) {}
 
@@ -50,7 +51,7 @@ class Context {
     Limb* scratch;
 };
 
-void Context::enter(Limb* out, Limb const* a) const noexcept {
+void MontgomeryContext::enter(Limb* out, Limb const* a) const noexcept {
     int const shift = std::countl_zero(modulus[count - 1]);
     if (count == 1) {
         Limb const shifted[2] = {0, a[0]};
@@ -76,6 +77,57 @@ void Context::enter(Limb* out, Limb const* a) const noexcept {
         std::copy(dividend, dividend + count, out);
 }
 
+/// Products modulo any number, each reduced by division.
+class DivisionContext {
+  public:
+    DivisionContext(Limb const* modulus, std::size_t limbCount, Limb* limbs) noexcept
+        : count(limbCount), shift(std::countl_zero(modulus[limbCount - 1])), divisor(limbs),
+          product(limbs + limbCount), quotient(product + 2 * limbCount + 1),
+          scratch(quotient + 2 * limbCount) {
+        std::copy(modulus, modulus + count, divisor);
+        if (shift != 0)
+            shiftLeft(divisor, divisor, count, shift);
+    }
+
+    void multiply(Limb* out, Limb const* a, Limb const* b) const noexcept {
+        limbs::multiply(product, a, count, b, count, scratch);
+        reduce(out);
+    }
+
+    void square(Limb* out, Limb const* a) const noexcept {
+        limbs::square(product, a, count, scratch);
+        reduce(out);
+    }
+
+    void enter(Limb* out, Limb const* a) const noexcept { std::copy(a, a + count, out); }
+    void leave(Limb* out, Limb const* a) const noexcept { std::copy(a, a + count, out); }
+
+  private:
+    void reduce(Limb* out) const noexcept {
+        product[2 * count] = 0;
+        if (shift != 0)
+            product[2 * count] = shiftLeft(product, product, 2 * count, shift);
+        if (count == 1) {
+            Limb const top = divideLimb(quotient, product + 1, 2, divisor[0]);
+            Limb const rest[2] = {product[0], top};
+            out[0] = divideLimb(quotient, rest, 2, divisor[0]) >> shift;
+            return;
+        }
+        divideNormalized(quotient, product, 2 * count + 1, divisor, count);
+        if (shift != 0)
+            shiftRight(out, product, count, shift);
+        else
+            std::copy(product, product + count, out);
+    }
+
+    std::size_t count;
+    int shift;
+    Limb* divisor;
+    Limb* product;
+    Limb* quotient;
+    Limb* scratch;
+};
+
 /// Windows of this many bits cost the fewest multiplications for an exponent of `bits` bits:
 /// bits / (width + 1) in the loop, about 2^width to join the buckets.
 int windowWidth(long long bits) noexcept {
@@ -93,6 +145,7 @@ struct Buckets {
     Limb* limbs;
     std::array<bool, mostBuckets> used;
 
+    template <typename Context>
     void gather(Context const& context, std::size_t count, std::size_t index,
                 Limb const* factor) noexcept {
         Limb* const bucket = limbs + index * count;
@@ -106,6 +159,7 @@ struct Buckets {
 
 /// The product of bucket[k]^(2k + 1), in bucket 0: with suffix products S_k = the product of the
 /// buckets from k up, it is S_0 * (S_1 * S_2 * ...)^2. False when no bucket is used.
+template <typename Context>
 bool joinBuckets(Buckets& buckets, std::size_t bucketCount, Context const& context,
                  std::size_t count, Limb* joined) noexcept {
     bool any = false;
@@ -136,15 +190,18 @@ Limb negatedInverse(Limb odd) noexcept {
     return 0 - inverse;
 }
 
-// The current power and the joined product, the buckets, and what a context needs.
+// The current power and the joined product, the buckets, and what the larger context needs.
 std::size_t powerScratch(std::size_t count, long long top) noexcept {
     std::size_t const buckets = std::size_t{1} << (windowWidth(top) - 1);
-    return (2 + buckets) * count + 2 * count
+    return (2 + buckets) * count + 5 * count + 1
            + std::max({multiplyScratch(count, count), squareScratch(count), 2 * count + 1});
 }
 
-void power(Limb* result, Limb* lower, Limb* highest, Limb const* base, Limb const* e, long long top,
-           Limb const* modulus, std::size_t count, Limb* scratch) noexcept {
+namespace {
+
+template <typename Context>
+void powerIn(Limb* result, Limb* lower, Limb* highest, Limb const* base, Limb const* e,
+             long long top, Limb const* modulus, std::size_t count, Limb* scratch) noexcept {
     int const width = windowWidth(top);
     std::size_t const bucketCount = std::size_t{1} << (width - 1);
     Limb* const current = scratch;
@@ -178,6 +235,16 @@ void power(Limb* result, Limb* lower, Limb* highest, Limb const* base, Limb cons
         lower[0] = 1;
         std::copy(highest, highest + count, result);
     }
+}
+
+}  // namespace
+
+void power(Limb* result, Limb* lower, Limb* highest, Limb const* base, Limb const* e, long long top,
+           Limb const* modulus, std::size_t count, Limb* scratch) noexcept {
+    if (modulus[0] % 2 != 0)
+        powerIn<MontgomeryContext>(result, lower, highest, base, e, top, modulus, count, scratch);
+    else
+        powerIn<DivisionContext>(result, lower, highest, base, e, top, modulus, count, scratch);
 }
 
 }  // namespace qel::limbs

@@ -1,0 +1,18 @@
+// Greatest common divisors and modular inverses.
+#pragma once
+
+#include "Limbs.h"
+
+namespace qel::limbs {
+
+/// out[0, count) = the gcd of a and b, both of `count` limbs with zeros on top where one is
+/// shorter; that of a number and zero is the number. Both operands are used up.
+void gcd(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noexcept;
+std::size_t gcdScratch(std::size_t count) noexcept;
+
+/// out[0, count) = the inverse of v modulo m, for 1 < v < m, both of `count` limbs with zeros on
+/// top where v is shorter. False when there is none. Both operands are used up.
+bool inverse(Limb* out, Limb* v, Limb* m, std::size_t count, Limb* scratch) noexcept;
+std::size_t inverseScratch(std::size_t count) noexcept;
+
+}  // namespace qel::limbs
