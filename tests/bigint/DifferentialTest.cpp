@@ -502,11 +502,7 @@ class Sequence {
         }
         a.fast.inverseModulo(m.fast);
         a.plain.inverseModulo(m.plain);
-        if (a.fast.toString(16) != a.plain.toString(16)
-            || books(a.fast).highestBit != a.plain.highestBit
-            || books(a.fast).negative != a.plain.negative)
-            return a.fast.toString(16) + ", not " + a.plain.toString(16);
-        return {};
+        return check(a);
     }
 
     std::string powerStep() {
