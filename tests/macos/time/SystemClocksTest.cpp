@@ -23,7 +23,7 @@ TEST(SystemClocks, TheCountersHalvesArePutTogether) {
          }) {
         frameworks = FakeFrameworks();
         frameworks.counter = row.counter;
-        EXPECT_EQ(qel::microsecondsSinceStartup(), row.microseconds);
+        EXPECT_EQ(qel::internal::microsecondsSinceStartup(), row.microseconds);
         EXPECT_EQ(frameworks.calls, std::vector<std::string>{"Microseconds"});
     }
 }
