@@ -2,6 +2,8 @@
 // products on halves of limbs.
 #include "LimbTables.h"
 
+#include "bigint/limbs/Montgomery.h"
+
 namespace {
 
 using namespace limb_test;
@@ -220,15 +222,6 @@ TEST(LimbAddMultiply, AddsARowInEachVariantAlsoToItself) {
     });
 }
 
-TEST(LimbAddMultiply, TheFreeFunctionIsTheVariantInUse) {
-    for (Variant const& variant : variants()) {
-        Using const use(variant);
-        Fenced out(Limbs{1, 2, allOnes});
-        EXPECT_EQ(limbs::addMultiply(out.data(), Limbs{3, 0, 2}.data(), 3, topBit), 1U);
-        EXPECT_TRUE(out.holds({topBit + 1, 3, allOnes})) << variant.name;
-    }
-}
-
 TEST(LimbSubtractMultiply, SubtractsARowAlsoFromItself) {
     onPairs(13, rowLengths(), [](Limbs const& before, Limbs const& a) {
         for (Limb const b : edgeLimbs) {
@@ -259,6 +252,37 @@ TEST(LimbVariants, TheFastestThatRunsIsChosenUnlessATestChooses) {
         }
         EXPECT_EQ(&limbs::kernels(), own);
     }
+}
+
+/// A variant of which each kernel leaves its number and does nothing else.
+int asked = 0;
+limbs::Kernels const asking = {
+    [](Limb*, Limb const*, std::size_t, Limb) noexcept -> Limb { return asked = 1, 0; },
+    [](Limb*, Limb const*, std::size_t, Limb const*, std::size_t) noexcept { asked = 2; },
+    [](Limb*, Limb const*, std::size_t) noexcept { asked = 3; },
+    [](Limb*, Limb*, Limb const*, std::size_t, Limb) noexcept { asked = 4; }};
+
+// All variants give the same results, so that only one that does not shows who is asked.
+TEST(LimbVariants, TheOneInUseIsAskedForAllThatHasVariants) {
+    Using const use({"asking", &asking});
+    Limbs out(6);
+    Limbs const a{1, 0, 0};
+    limbs::addMultiply(out.data(), a.data(), 3, 1);
+    EXPECT_EQ(asked, 1);
+    limbs::multiply(out.data(), a.data(), 3, a.data(), 3, nullptr);
+    EXPECT_EQ(asked, 2);
+    limbs::square(out.data(), a.data(), 3, nullptr);
+    EXPECT_EQ(asked, 3);
+    Limbs const divisor{1, 1, topBit};
+    Limb quotient = 0;
+    limbs::divideNormalized(&quotient, out.data(), 4, divisor.data(), 3);
+    EXPECT_EQ(asked, 1);
+    Limb const three = 3;
+    Limb result[3];
+    Limbs scratch(limbs::powerScratch(1, 0));
+    limbs::power(&result[0], &result[1], &result[2], a.data(), a.data(), 0, &three, 1,
+                 scratch.data());
+    EXPECT_EQ(asked, 4);
 }
 
 }  // namespace

@@ -298,7 +298,7 @@ TEST(Power, OfZeroOneAndMinusOne) {
         Limbs one(modulus.size());
         one[0] = 1;
         for (Limbs const& base : {Limbs(modulus.size()), one, before(modulus)}) {
-            for (Limb const e : {1, 2, 3, 4, 5, 12, 0xFFFFFF, 0x1000000, 0x1000001})
+            for (Limb const e : {1U, 2U, 3U, 4U, 5U, 12U, 0xFFFFFFU, 0x1000000U, 0x1000001U})
                 expectPower(base, {e}, modulus);
         }
     });
