@@ -11,7 +11,7 @@ namespace {
 using namespace limb_test;
 namespace limbs = qel::limbs;
 
-TEST(NegatedInverse, TimesTheOddLimbIsMinusOne) {
+TEST(LimbNegatedInverse, TimesTheOddLimbIsMinusOne) {
     Operands operands(70);
     for (Limb odd = 1; odd < 512; odd += 2) {
         EXPECT_EQ(odd * limbs::negatedInverse(odd), allOnes) << text(odd);
@@ -227,7 +227,7 @@ Limbs anyBelow(Operands& operands, Limbs const& modulus) {
 constexpr long long tops[] = {0,  1,  2,  3,  5,   22,  23,  24,  25,  63,  64, 65,
                               78, 79, 80, 81, 238, 239, 240, 241, 766, 767, 768};
 
-TEST(Power, OfOneBitAndOfAllBitsAtEachWindowWidth) {
+TEST(LimbPower, OfOneBitAndOfAllBitsAtEachWindowWidth) {
     Operands operands(100);
     for (long long const top : tops) {
         for (Limbs const& modulus :
@@ -242,7 +242,7 @@ TEST(Power, OfOneBitAndOfAllBitsAtEachWindowWidth) {
     }
 }
 
-TEST(Power, OfAnyExponentAtEachWindowWidth) {
+TEST(LimbPower, OfAnyExponentAtEachWindowWidth) {
     Operands operands(101);
     for (long long const top : tops) {
         for (Pattern const pattern : patterns) {
@@ -260,7 +260,7 @@ TEST(Power, OfAnyExponentAtEachWindowWidth) {
 }
 
 // One window alone fills one bucket; the others must be joined as if they were 1.
-TEST(Power, OfEachSingleDigitBelowTheHighestBit) {
+TEST(LimbPower, OfEachSingleDigitBelowTheHighestBit) {
     Limbs const modulus{0x123456789ABCDEF1};
     for (long long const top : {10LL, 30LL, 100LL, 300LL, 800LL}) {
         for (Limb digit = 1; digit < 64; ++digit) {
@@ -274,7 +274,7 @@ TEST(Power, OfEachSingleDigitBelowTheHighestBit) {
 }
 
 // Windows that end below the highest bit, at it, and that it cuts short.
-TEST(Power, OfOneWindowAtEachDistanceFromTheHighestBit) {
+TEST(LimbPower, OfOneWindowAtEachDistanceFromTheHighestBit) {
     Limbs const modulus{0x123456789ABCDEF1};
     for (long long const top : {20LL, 30LL, 100LL, 300LL, 800LL}) {
         for (long long distance = 1; distance < 9; ++distance) {
@@ -293,7 +293,7 @@ TEST(Power, OfOneWindowAtEachDistanceFromTheHighestBit) {
     }
 }
 
-TEST(Power, OfZeroOneAndMinusOne) {
+TEST(LimbPower, OfZeroOneAndMinusOne) {
     onModuli(102, {1, 2, 5}, [](Limbs const& modulus) {
         Limbs one(modulus.size());
         one[0] = 1;
@@ -304,7 +304,7 @@ TEST(Power, OfZeroOneAndMinusOne) {
     });
 }
 
-TEST(Power, ModuloNumbersOfEachLengthWithTheirTopBitSetAndClear) {
+TEST(LimbPower, ModuloNumbersOfEachLengthWithTheirTopBitSetAndClear) {
     Operands operands(103);
     for (std::size_t const count : rowLengths()) {
         Limbs modulus = operands.make(Pattern::uniform, count);
@@ -319,7 +319,7 @@ TEST(Power, ModuloNumbersOfEachLengthWithTheirTopBitSetAndClear) {
     }
 }
 
-TEST(Power, ModuloNumbersWhoseProductsAreTakenByHalves) {
+TEST(LimbPower, ModuloNumbersWhoseProductsAreTakenByHalves) {
     Operands operands(104);
     onModuli(105,
              {limbs::karatsubaMultiply - 1, limbs::karatsubaMultiply, limbs::karatsubaMultiply + 1,
