@@ -2,7 +2,7 @@
 // products on halves of limbs.
 #include "LimbTables.h"
 
-#include "bigint/limbs/Montgomery.h"
+#include "bigint/limbs/Power.h"
 
 namespace {
 
@@ -218,23 +218,6 @@ TEST(LimbAddMultiply, AddsARowInEachVariantAlsoToItself) {
                 ASSERT_TRUE(out.intact()) << variant.name << input("a", a, "b", b);
                 ASSERT_TRUE(inA.intact()) << variant.name << input("a", a, "b", b);
             }
-        }
-    });
-}
-
-TEST(LimbSubtractMultiply, SubtractsARowAlsoFromItself) {
-    onPairs(13, rowLengths(), [](Limbs const& before, Limbs const& a) {
-        for (Limb const b : edgeLimbs) {
-            Fenced out(before);
-            Fenced inA(a);
-            Limb const borrow = limbs::subtractMultiply(out.data(), a.data(), a.size(), b);
-            Limb const borrowInA = limbs::subtractMultiply(inA.data(), inA.data(), a.size(), b);
-            // out - a * b = out' - borrow * 2^(64 count)
-            ASSERT_EQ(rowSum(out.values(), a, b), with(before, borrow))
-                << input("out", before, "a", a, "b", b);
-            ASSERT_EQ(rowSum(inA.values(), a, b), with(a, borrowInA)) << input("a", a, "b", b);
-            ASSERT_TRUE(out.intact());
-            ASSERT_TRUE(inA.intact());
         }
     });
 }

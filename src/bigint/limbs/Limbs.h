@@ -44,8 +44,6 @@ void shiftRight(Limb* out, Limb const* a, std::size_t count, int bits) noexcept;
 Limb multiplyLimb(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept;
 /// out += a * b.
 Limb addMultiply(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept;
-/// out -= a * b.
-Limb subtractMultiply(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept;
 
 // --- products -----------------------------------------------------------------------------------
 

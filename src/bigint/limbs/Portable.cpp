@@ -29,18 +29,6 @@ Limb multiplyLimb(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept 
     return carry;
 }
 
-Limb subtractMultiply(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept {
-    Limb borrow = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        DoubleLimb const product = DoubleLimb{a[i]} * b + borrow;
-        Limb const low = static_cast<Limb>(product);
-        Limb const limb = out[i];
-        out[i] = limb - low;
-        borrow = static_cast<Limb>(product >> bitsPerLimb) + (limb < low ? 1 : 0);
-    }
-    return borrow;
-}
-
 Kernels const portableKernels = {addMultiplyPortable, multiplyRows<addMultiplyPortable>,
                                  squareRows<addMultiplyPortable>, reduceRows<addMultiplyPortable>};
 
