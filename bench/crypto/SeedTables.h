@@ -1,0 +1,28 @@
+// The seed tables that keys are created from, so that no luck of one search decides.
+#ifndef QEL_BENCH_CRYPTO_SEEDTABLES_H
+#define QEL_BENCH_CRYPTO_SEEDTABLES_H
+
+#include <array>
+
+namespace qel::bench {
+
+using SeedTable = std::array<int, 4>;
+
+inline constexpr SeedTable seedTables[] = {
+    {1, 2, 3, 4},
+    {5, 6, 7, 8},
+    {17, 4, 1970, 1},
+    {-1, 2147483647, -2147483647, 99},
+    {123456789, -987654321, 192837465, -564738291},
+    {27182818, 28459045, 23536028, 74713526},
+    {31415926, 53589793, 23846264, 33832795},
+    {-7, -300, -1848, -65537},
+    {1009, 10007, 100003, 1000003},
+    {2026, 11, 21, 12},
+};
+
+inline constexpr int keyWidths[] = {512, 1024, 2048};
+
+}  // namespace qel::bench
+
+#endif
