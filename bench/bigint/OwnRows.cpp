@@ -1,8 +1,15 @@
-// The rows of LargeInteger.
+// The rows of LargeInteger, and which compiler it was built with.
 #include "Rows.h"
 
 namespace {
 
-[[maybe_unused]] bool const registered = (qel::bench::registerRows<qel::bench::Own>(), true);
+#ifdef __clang__
+constexpr char const* compiler = "clang++ " __clang_version__;
+#else
+constexpr char const* compiler = "g++ " __VERSION__;
+#endif
+
+[[maybe_unused]] bool const registered = (benchmark::AddCustomContext("compiler", compiler),
+                                          qel::bench::registerRows<qel::bench::Own>(), true);
 
 }  // namespace

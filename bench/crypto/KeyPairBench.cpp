@@ -12,7 +12,8 @@ void createKeyPairs(benchmark::State& state) {
     for (auto _ : state) {
         for (qel::bench::SeedTable const& seeds : qel::bench::seedTables) {
             qel::RSAKey first, second;
-            qel::RSAKey::createKeyPair(first, second, bits, seeds.data(), seeds.size());
+            qel::RSAKey::createKeyPair(first, second, bits, seeds.data(),
+                                       static_cast<int>(seeds.size()));
             benchmark::DoNotOptimize(second);
         }
     }

@@ -59,20 +59,21 @@ void standardToString(benchmark::State& state, int limit) {
     forEach(state, integersBelow(limit), [](int v) { return std::to_string(v); });
 }
 
-BENCHMARK_CAPTURE(asciiToDouble, whole, "%.0f");
-BENCHMARK_CAPTURE(stringToDouble, whole, "%.0f");
-BENCHMARK_CAPTURE(asciiToDouble, twoDecimals, "%.2f");
-BENCHMARK_CAPTURE(stringToDouble, twoDecimals, "%.2f");
-BENCHMARK_CAPTURE(asciiToDouble, exponent, "%.6e");
-BENCHMARK_CAPTURE(stringToDouble, exponent, "%.6e");
-BENCHMARK_CAPTURE(asciiToDouble, allDigits, "%.17g");
-BENCHMARK_CAPTURE(stringToDouble, allDigits, "%.17g");
+BENCHMARK_CAPTURE(asciiToDouble, whole, "%.0f")->Name("qel/number from text, whole");
+BENCHMARK_CAPTURE(stringToDouble, whole, "%.0f")->Name("strtod/number from text, whole");
+BENCHMARK_CAPTURE(asciiToDouble, twoDecimals, "%.2f")->Name("qel/number from text, twoDecimals");
+BENCHMARK_CAPTURE(stringToDouble, twoDecimals, "%.2f")
+    ->Name("strtod/number from text, twoDecimals");
+BENCHMARK_CAPTURE(asciiToDouble, exponent, "%.6e")->Name("qel/number from text, exponent");
+BENCHMARK_CAPTURE(stringToDouble, exponent, "%.6e")->Name("strtod/number from text, exponent");
+BENCHMARK_CAPTURE(asciiToDouble, allDigits, "%.17g")->Name("qel/number from text, allDigits");
+BENCHMARK_CAPTURE(stringToDouble, allDigits, "%.17g")->Name("strtod/number from text, allDigits");
 
-BENCHMARK_CAPTURE(int2String, small, 99);
-BENCHMARK_CAPTURE(standardToString, small, 99);
-BENCHMARK_CAPTURE(int2String, medium, 99999);
-BENCHMARK_CAPTURE(standardToString, medium, 99999);
-BENCHMARK_CAPTURE(int2String, large, 2147483647);
-BENCHMARK_CAPTURE(standardToString, large, 2147483647);
+BENCHMARK_CAPTURE(int2String, small, 99)->Name("qel/integer to text, small");
+BENCHMARK_CAPTURE(standardToString, small, 99)->Name("to_string/integer to text, small");
+BENCHMARK_CAPTURE(int2String, medium, 99999)->Name("qel/integer to text, medium");
+BENCHMARK_CAPTURE(standardToString, medium, 99999)->Name("to_string/integer to text, medium");
+BENCHMARK_CAPTURE(int2String, large, 2147483647)->Name("qel/integer to text, large");
+BENCHMARK_CAPTURE(standardToString, large, 2147483647)->Name("to_string/integer to text, large");
 
 }  // namespace

@@ -110,20 +110,42 @@ void toTheLargestForTheLoop(benchmark::internal::Benchmark* b) {
     b->RangeMultiplier(8)->Range(smallest, largestForTheLoop)->Complexity();
 }
 
-BENCHMARK_CAPTURE(replace, few, few)->Apply(toTheLargest);
-BENCHMARK_CAPTURE(loop, few, few)->Apply(toTheLargest);
-BENCHMARK_CAPTURE(replace, fewLetters, fewLetters)->Apply(toTheLargest);
-BENCHMARK_CAPTURE(loop, fewLetters, fewLetters)->Apply(toTheLargest);
-BENCHMARK_CAPTURE(replace, manySameLength, manySameLength)->Apply(toTheLargest);
-BENCHMARK_CAPTURE(loop, manySameLength, manySameLength)->Apply(toTheLargest);
-BENCHMARK_CAPTURE(replace, manyShrinking, manyShrinking)->Apply(toTheLargest);
-BENCHMARK_CAPTURE(loop, manyShrinking, manyShrinking)->Apply(toTheLargestForTheLoop);
-BENCHMARK_CAPTURE(replace, manyGrowing, manyGrowing)->Apply(toTheLargest);
-BENCHMARK_CAPTURE(loop, manyGrowing, manyGrowing)->Apply(toTheLargestForTheLoop);
-BENCHMARK_CAPTURE(replace, doubledLetters, doubledLetters)->Apply(toTheLargest);
+BENCHMARK_CAPTURE(replace, few, few)->Name("qel/replace, few")->Apply(toTheLargest);
+BENCHMARK_CAPTURE(loop, few, few)->Name("loop/replace, few")->Apply(toTheLargest);
+BENCHMARK_CAPTURE(replace, fewLetters, fewLetters)
+    ->Name("qel/replace, fewLetters")
+    ->Apply(toTheLargest);
+BENCHMARK_CAPTURE(loop, fewLetters, fewLetters)
+    ->Name("loop/replace, fewLetters")
+    ->Apply(toTheLargest);
+BENCHMARK_CAPTURE(replace, manySameLength, manySameLength)
+    ->Name("qel/replace, manySameLength")
+    ->Apply(toTheLargest);
+BENCHMARK_CAPTURE(loop, manySameLength, manySameLength)
+    ->Name("loop/replace, manySameLength")
+    ->Apply(toTheLargest);
+BENCHMARK_CAPTURE(replace, manyShrinking, manyShrinking)
+    ->Name("qel/replace, manyShrinking")
+    ->Apply(toTheLargest);
+BENCHMARK_CAPTURE(loop, manyShrinking, manyShrinking)
+    ->Name("loop/replace, manyShrinking")
+    ->Apply(toTheLargestForTheLoop);
+BENCHMARK_CAPTURE(replace, manyGrowing, manyGrowing)
+    ->Name("qel/replace, manyGrowing")
+    ->Apply(toTheLargest);
+BENCHMARK_CAPTURE(loop, manyGrowing, manyGrowing)
+    ->Name("loop/replace, manyGrowing")
+    ->Apply(toTheLargestForTheLoop);
+BENCHMARK_CAPTURE(replace, doubledLetters, doubledLetters)
+    ->Name("qel/replace, doubledLetters")
+    ->Apply(toTheLargest);
 BENCHMARK_CAPTURE(loop, doubledLetters, doubledLetters, loopUntilNothingIsFound)
     ->Apply(toTheLargestForTheLoop);
-BENCHMARK_CAPTURE(replace, nearlyMatching, longPartThatNearlyMatches)->Apply(toTheLargest);
-BENCHMARK_CAPTURE(loop, nearlyMatching, longPartThatNearlyMatches)->Apply(toTheLargestForTheLoop);
+BENCHMARK_CAPTURE(replace, nearlyMatching, longPartThatNearlyMatches)
+    ->Name("qel/replace, nearlyMatching")
+    ->Apply(toTheLargest);
+BENCHMARK_CAPTURE(loop, nearlyMatching, longPartThatNearlyMatches)
+    ->Name("loop/replace, nearlyMatching")
+    ->Apply(toTheLargestForTheLoop);
 
 }  // namespace

@@ -46,7 +46,7 @@ void Text_Strftime(benchmark::State& state) {
         benchmark::DoNotOptimize(std::string(buffer, length));
     }
 }
-BENCHMARK(Text_Strftime);
+BENCHMARK(Text_Strftime)->Name("strftime/text");
 
 void Text_ConvertToString(benchmark::State& state) {
     Counts counts(sample);
@@ -54,7 +54,7 @@ void Text_ConvertToString(benchmark::State& state) {
         benchmark::DoNotOptimize(
             Date(counts.next()).ConvertToString(true, true, true, true, false));
 }
-BENCHMARK(Text_ConvertToString);
+BENCHMARK(Text_ConvertToString)->Name("qel/text");
 
 // --- the current time ----------------------------------------------------------------------------
 
@@ -64,7 +64,7 @@ void Now_SystemClock(benchmark::State& state) {
         benchmark::DoNotOptimize(std::chrono::duration_cast<std::chrono::milliseconds>(now));
     }
 }
-BENCHMARK(Now_SystemClock);
+BENCHMARK(Now_SystemClock)->Name("system_clock/now");
 
 /// The clock that GetCurrentSystemTime reads too.
 void Now_SteadyClock(benchmark::State& state) {
@@ -73,13 +73,13 @@ void Now_SteadyClock(benchmark::State& state) {
         benchmark::DoNotOptimize(std::chrono::duration_cast<std::chrono::milliseconds>(now));
     }
 }
-BENCHMARK(Now_SteadyClock);
+BENCHMARK(Now_SteadyClock)->Name("steady_clock/now");
 
 void Now_GetCurrentSystemTime(benchmark::State& state) {
     for (auto _ : state)
         benchmark::DoNotOptimize(Date::GetCurrentSystemTime());
 }
-BENCHMARK(Now_GetCurrentSystemTime);
+BENCHMARK(Now_GetCurrentSystemTime)->Name("qel/now");
 
 // --- one field -----------------------------------------------------------------------------------
 
@@ -88,21 +88,21 @@ void Field_Localtime(benchmark::State& state) {
     for (auto _ : state)
         benchmark::DoNotOptimize(brokenDown(counts.next()).tm_mday);
 }
-BENCHMARK(Field_Localtime);
+BENCHMARK(Field_Localtime)->Name("localtime_r/field");
 
 void Field_GetDay(benchmark::State& state) {
     Counts counts(sample);
     for (auto _ : state)
         benchmark::DoNotOptimize(Date(counts.next()).GetDay());
 }
-BENCHMARK(Field_GetDay);
+BENCHMARK(Field_GetDay)->Name("qel/field");
 
 void FarField_Localtime(benchmark::State& state) {
     Counts counts(farSample);
     for (auto _ : state)
         benchmark::DoNotOptimize(brokenDown(counts.next()).tm_mday);
 }
-BENCHMARK(FarField_Localtime);
+BENCHMARK(FarField_Localtime)->Name("localtime_r/far field");
 
 /// Pays one mktime for the offset of 1971.
 void FarField_GetDay(benchmark::State& state) {
@@ -110,7 +110,7 @@ void FarField_GetDay(benchmark::State& state) {
     for (auto _ : state)
         benchmark::DoNotOptimize(Date(counts.next()).GetDay());
 }
-BENCHMARK(FarField_GetDay);
+BENCHMARK(FarField_GetDay)->Name("qel/far field");
 
 void FarField_Mktime(benchmark::State& state) {
     for (auto _ : state) {
@@ -121,6 +121,6 @@ void FarField_Mktime(benchmark::State& state) {
         benchmark::DoNotOptimize(std::mktime(&fields));
     }
 }
-BENCHMARK(FarField_Mktime);
+BENCHMARK(FarField_Mktime)->Name("mktime/offset of 1971");
 
 }  // namespace
