@@ -67,7 +67,8 @@ mpz_class startFrom(int const* seeds, int seedCount, int bitCount) {
         mpz_class fill;
         for (int position = 0; position < bitCount; position += 32) {
             state = (state * 0x5DEECE66D + 11) & 0xFFFFFFFFFFFF;
-            fill |= mpz_class(static_cast<unsigned long>(state >> 16)) << position;
+            fill |= mpz_class(static_cast<unsigned long>(state >> 16))
+                    << static_cast<mp_bitcnt_t>(position);
         }
         start ^= fill;
     }
