@@ -65,6 +65,11 @@ inline LargeInteger negativeZero() {
     return zero;
 }
 
+/// The object itself as an operand, without a compiler's warning about that.
+inline LargeInteger const& self(LargeInteger const& v) {
+    return v;
+}
+
 /// Raises the cached bound of `v` to `bound`, far above its true top.
 inline void makeStale(LargeInteger& v, int bound) {
     v.setBit(bound);
