@@ -66,7 +66,7 @@ bool Folder::SetCurrentWorkingDirectory(char const* path) noexcept {
 }
 
 std::string Folder::GetCurrentWorkingDirectory() noexcept {
-    char buffer[pathCapacity];
+    char buffer[internal::pathCapacity];
     return getcwd(buffer, sizeof buffer) == nullptr ? "" : buffer;
 }
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace qel {
+namespace qel::internal {
 
 /// Bytes for a path, and for a text converted to UTF-8, each with its terminator.
 constexpr unsigned int pathCapacity = 1024;
@@ -19,4 +19,4 @@ constexpr unsigned int textCapacity = 4096;
 /// "" for a text that takes `textCapacity` bytes or more in UTF-8.
 [[nodiscard]] std::string utf8FromMacRoman(std::string const& text) noexcept;
 
-}  // namespace qel
+}  // namespace qel::internal

@@ -9,7 +9,7 @@
 // These calls are deprecated, and still there: when an alias resolves is defined by them.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
-namespace qel {
+namespace qel::internal {
 
 bool findAliasTarget(char const* path, char* target, unsigned int size, bool& isAlias) noexcept {
     isAlias = false;
@@ -36,6 +36,6 @@ std::string utf8FromMacRoman(std::string const& text) noexcept {
     return fits ? buffer : "";
 }
 
-}  // namespace qel
+}  // namespace qel::internal
 
 #endif

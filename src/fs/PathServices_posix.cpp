@@ -5,7 +5,7 @@
 
 #include <array>
 
-namespace qel {
+namespace qel::internal {
 
 namespace {
 
@@ -65,6 +65,6 @@ std::string utf8FromMacRoman(std::string const& text) noexcept {
     return converted.size() < textCapacity ? converted : std::string();
 }
 
-}  // namespace qel
+}  // namespace qel::internal
 
 #endif

@@ -21,11 +21,11 @@ std::string belowVolumes(std::string const& path) {
     return "/Volumes/" + path.substr(0, colon) + path.substr(colon + 1);
 }
 
-/// Nothing for a path that does not resolve, or to more than `pathCapacity` holds.
+/// Nothing for a path that does not resolve, or to more bytes than the documented buffer has.
 std::optional<std::string> canonicalPath(char const* path) {
     // The system allocates: into a buffer of ours it would write as much as its own limit allows.
     std::unique_ptr<char, void (*)(void*)> const resolved(realpath(path, nullptr), std::free);
-    if (resolved == nullptr || CharFunctions::Length(resolved.get()) >= pathCapacity)
+    if (resolved == nullptr || CharFunctions::Length(resolved.get()) >= internal::pathCapacity)
         return std::nullopt;
     return resolved.get();
 }
@@ -47,7 +47,7 @@ bool Folder::IsPathAbsolute(char const* path) noexcept {
 }
 
 std::string Folder::TranslateAbsolutePath(char const* path) noexcept {
-    return utf8FromMacRoman(*path == '/' ? path : belowVolumes(path));
+    return internal::utf8FromMacRoman(*path == '/' ? path : belowVolumes(path));
 }
 
 std::string Folder::GetRealPath(char const* path) noexcept {
@@ -59,9 +59,10 @@ std::string Folder::GetRealPath(char const* path) noexcept {
 
 void Folder::ResolveIfAlias(char const* path, char* resolved, bool& wasAlias,
                             int resolvedSize) noexcept {
-    char target[pathCapacity];
-    auto const size = static_cast<unsigned int>(std::clamp(resolvedSize, 0, int{pathCapacity}));
-    if (findAliasTarget(path, target, size, wasAlias)) {
+    char target[internal::pathCapacity];
+    auto const size =
+        static_cast<unsigned int>(std::clamp(resolvedSize, 0, int{internal::pathCapacity}));
+    if (internal::findAliasTarget(path, target, size, wasAlias)) {
         CharFunctions::Copy(resolved, target, size);
     } else {
         CharFunctions::Copy(resolved, path);
