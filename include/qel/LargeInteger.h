@@ -257,8 +257,8 @@ class LargeInteger {
     void shiftRight(long long count) noexcept;
     void shiftLeftFrom(int from, long long count) noexcept;
     void shiftRightFrom(int from, long long count) noexcept;
-    [[nodiscard]] std::string digitsByShifting(int bits) const noexcept;
-    [[nodiscard]] std::string digitsByDividing() const noexcept;
+    void parseBits(char const* text, int bits) noexcept;
+    void parseDecimal(char const* text) noexcept;
 
     /// The magnitude, least significant word first: `size` + 1 words, the last one a guard.
     std::uint32_t* data;

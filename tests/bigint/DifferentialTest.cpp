@@ -527,19 +527,31 @@ class Sequence {
     std::string textStep() {
         static constexpr int radixes[] = {2, 8, 10, 16, 7, 0};
         int const radix = radixes[below(6)];
-        if (oneIn(2))
+        if (oneIn(2)) {
+            for (Twin& twin : twins) {  // plain decimal text takes cubic time
+                if (radix == 10 && twin.plain.highestBit > 4000)
+                    refill(twin, below(4000));
+            }
             return query(label("text in", radix),
                          [=](auto& a, auto&) { return a.toString(radix); });
+        }
         std::ostringstream digits;
         if (oneIn(6))
             digits << '-';
         if (oneIn(6))
-            digits << std::string(static_cast<std::size_t>(below(9)), '0');
-        for (int i = below(oneIn(10) ? 400 : 60); i > 0; --i)
-            digits << "0123456789abcdefABCDEF-x "[below(oneIn(3) ? 25 : 10)];
+            digits << std::string(static_cast<std::size_t>(below(oneIn(10) ? 300 : 9)), '0');
+        int const longest = oneIn(100) ? 3000 : oneIn(10) ? 400 : 60;
+        int const symbols = oneIn(3) ? 25 : oneIn(10) ? 1 : oneIn(10) ? 2 : 10;
+        for (int i = below(longest); i > 0; --i)
+            digits << "0123456789abcdefABCDEF-x "[below(symbols)];
         std::string const text = digits.str();
-        return unary("parse \"" + text + label("\" in", radix),
-                     [&](auto& x) { x.parseString(text, radix); });
+        std::string const fault = unary("parse \"" + text + label("\" in", radix),
+                                        [&](auto& x) { x.parseString(text, radix); });
+        if (fault.empty() && longest > 400) {  // too wide for the plain division and decimal text
+            for (Twin& twin : twins)
+                refill(twin);
+        }
+        return fault;
     }
 
     std::mt19937_64 random;

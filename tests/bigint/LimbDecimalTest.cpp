@@ -1,0 +1,95 @@
+// Decimal text at limb level: by halves as by single groups, at lengths around every split.
+#include "LimbTesting.h"
+
+#include "bigint/limbs/Decimal.h"
+#include "bigint/limbs/Thresholds.h"
+
+namespace {
+
+using namespace limbs_test;
+using namespace qel::limbs;
+
+std::string plainDecimal(Number rest, std::size_t groups) {
+    std::string digits(groups * digitsPerGroup, '0');
+    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit)
+        *digit = static_cast<char>('0' + divideLimb(rest.data(), rest.data(), rest.size(), 10));
+    return digits;
+}
+
+std::string decimal(Number const& value, std::size_t groups) {
+    Number withRoom = value;
+    withRoom.push_back(0);
+    Fenced limbs(withRoom);
+    Fenced scratch(toDecimalScratch(groups));
+    std::string digits(groups * digitsPerGroup, '?');
+    toDecimal(digits.data(), groups, limbs.data(), value.size(), scratch.data());
+    EXPECT_TRUE(limbs.intact() && scratch.intact()) << show(value);
+    return digits;
+}
+
+Number parsed(std::string const& digits) {
+    std::size_t const groups = (digits.size() - 1) / digitsPerGroup + 1;
+    Fenced out(groups);
+    Fenced scratch(fromDecimalScratch(groups));
+    fromDecimal(out.data(), digits.data(), digits.size(), scratch.data());
+    EXPECT_TRUE(out.intact() && scratch.intact()) << digits;
+    return out.value();
+}
+
+/// Lengths in groups: up to beyond the splits, and around powers of two.
+std::vector<std::size_t> lengths() {
+    std::vector<std::size_t> all;
+    for (std::size_t i = 1; i <= 2 * std::max(decimalInSplit, decimalOutSplit) + 3; ++i)
+        all.push_back(i);
+    for (std::size_t power : {128U, 256U, 512U})
+        all.insert(all.end(), {power - 1, power, power + 1, power + power / 2});
+    return all;
+}
+
+TEST(LimbDecimal, WritesWhatSingleDigitsWouldBe) {
+    std::mt19937_64 random(1);
+    for (std::size_t count : lengths()) {
+        for (Pattern pattern : patterns) {
+            Number const value = number(count, pattern, random);
+            std::size_t const groups = decimalGroups(count);
+            ASSERT_EQ(decimal(value, groups), plainDecimal(value, groups)) << show(value);
+        }
+    }
+}
+
+TEST(LimbDecimal, ReadsBackWhatItWrites) {
+    std::mt19937_64 random(2);
+    for (std::size_t count : lengths()) {
+        Number value = anyNumber(count, random);
+        std::string const digits = decimal(value, decimalGroups(count));
+        value.resize(decimalGroups(count));
+        ASSERT_EQ(parsed(digits), value) << digits;
+    }
+}
+
+TEST(LimbDecimal, ReadsTheLargestNumberOfEveryLength) {
+    for (std::size_t groups : lengths()) {
+        for (std::size_t missing : {0U, 1U, 18U}) {
+            std::string const nines(groups * digitsPerGroup - missing, '9');
+            Number const value = parsed(nines);
+            std::string const padded = std::string(missing, '0') + nines;
+            ASSERT_EQ(plainDecimal(value, groups), padded);
+            ASSERT_EQ(decimal(value, groups), padded);
+        }
+    }
+}
+
+TEST(LimbDecimal, PowersOfTenAndTheirNeighboursSplitExactly) {
+    for (std::size_t groups : {2U, 3U, 64U, 65U, 129U, 200U, 257U}) {
+        for (std::size_t digits : {groups * 19, groups * 19 - 7, groups * 19 - 18}) {
+            std::string const power = '1' + std::string(digits - 1, '0');
+            std::string const padding(groups * 19 - digits, '0');
+            ASSERT_EQ(decimal(parsed(power), groups), padding + power);
+            Number below = parsed(power);
+            subtractLimb(below.data(), below.data(), below.size(), 1);
+            ASSERT_EQ(decimal(below, groups), padding + '0' + std::string(digits - 1, '9'));
+        }
+    }
+}
+
+}  // namespace
