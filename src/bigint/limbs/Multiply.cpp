@@ -1,8 +1,9 @@
 // Products of two numbers: rows for short ones, Karatsuba's three products of halves for longer
-// ones (Karatsuba and Ofman, 1962; the subtractive form of Knuth 4.3.3), slices where one operand
-// is longer.
+// ones (Karatsuba and Ofman, 1962; the subtractive form of Knuth 4.3.3), transforms for the
+// longest, slices where one operand is longer.
 #include "Kernels.h"
 #include "Thresholds.h"
+#include "Transform.h"
 
 #include <algorithm>
 
@@ -63,15 +64,24 @@ std::size_t equalScratch(std::size_t count) noexcept {
     return 4 * count + 256;
 }
 
+/// A longer operand is cut into slices of so many limbs.
+std::size_t sliceCount(std::size_t bCount) noexcept {
+    return bCount < transformMultiply ? bCount : 2 * bCount;
+}
+
 }  // namespace
 
-// Slices need twice the shorter operand beside the needs of the product; a last, shorter slice goes
-// down with the operands exchanged. Of two levels the second is at most half as long, so that
-// all levels together need at most 2 (b + b + b/2 + b/2 + ...) = 8b.
+// Slices need their product, at most thrice the shorter operand, beside the needs of the product; a
+// last, shorter slice goes down with the operands exchanged. Of two levels the second is at most
+// half as long, so that all levels together need at most 3 (b + b + b/2 + b/2 + ...) = 12b.
 std::size_t multiplyScratch(std::size_t aCount, std::size_t bCount) noexcept {
     if (bCount < karatsubaMultiply)
         return 0;
-    return equalScratch(bCount) + (aCount == bCount ? 0 : 8 * bCount);
+    std::size_t const slices = aCount == bCount ? 0 : 12 * bCount;
+    if (bCount < transformMultiply)
+        return equalScratch(bCount) + slices;
+    return slices
+           + std::max(equalScratch(bCount), transformScratch(std::min(aCount, 3 * bCount), bCount));
 }
 
 void multiply(Limb* out, Limb const* a, std::size_t aCount, Limb const* b, std::size_t bCount,
@@ -80,14 +90,23 @@ void multiply(Limb* out, Limb const* a, std::size_t aCount, Limb const* b, std::
         kernels().multiplyRows(out, a, aCount, b, bCount);
         return;
     }
-    multiplyEqual(out, a, b, bCount, scratch);
+    if (bCount >= transformMultiply && aCount <= 3 * bCount) {
+        multiplyByTransform(out, a, aCount, b, bCount, scratch);
+        return;
+    }
+    if (aCount == bCount) {
+        multiplyEqual(out, a, b, bCount, scratch);
+        return;
+    }
+    std::size_t const whole = sliceCount(bCount);
+    multiply(out, a, whole, b, bCount, scratch);
     // Each further slice of a adds its product above what is there.
     Limb* const product = scratch;
-    Limb* const rest = scratch + 2 * bCount;
-    for (std::size_t done = bCount; done < aCount;) {
-        std::size_t const slice = std::min(bCount, aCount - done);
-        if (slice == bCount)
-            multiplyEqual(product, a + done, b, bCount, rest);
+    Limb* const rest = scratch + whole + bCount;
+    for (std::size_t done = whole; done < aCount;) {
+        std::size_t const slice = std::min(whole, aCount - done);
+        if (slice >= bCount)
+            multiply(product, a + done, slice, b, bCount, rest);
         else
             multiply(product, b, bCount, a + done, slice, rest);
         std::copy(product + bCount, product + bCount + slice, out + done + bCount);
@@ -102,6 +121,10 @@ void square(Limb* out, Limb const* a, std::size_t count, Limb* scratch) noexcept
         kernels().squareRows(out, a, count);
         return;
     }
+    if (count >= transformSquare) {
+        multiplyByTransform(out, a, count, a, count, scratch);
+        return;
+    }
     std::size_t const half = count - count / 2;
     Limb* const middle = scratch;
     Limb* const rest = scratch + 2 * half;
@@ -113,7 +136,11 @@ void square(Limb* out, Limb const* a, std::size_t count, Limb* scratch) noexcept
 }
 
 std::size_t squareScratch(std::size_t count) noexcept {
-    return count < karatsubaSquare ? 0 : equalScratch(count);
+    if (count < karatsubaSquare)
+        return 0;
+    if (count < transformSquare)
+        return equalScratch(count);
+    return std::max(equalScratch(count), transformScratch(count, count));
 }
 
 }  // namespace qel::limbs

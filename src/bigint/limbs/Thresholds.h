@@ -8,6 +8,12 @@ namespace qel::limbs {
 
 inline constexpr std::size_t karatsubaMultiply = 28;
 inline constexpr std::size_t karatsubaSquare = 44;
+/// From this length of the shorter operand on, products are taken by transforms.
+inline constexpr std::size_t transformMultiply = 640;
+inline constexpr std::size_t transformSquare = 640;
+
+/// Quotients of fewer limbs are taken digit by digit. At least 2.
+inline constexpr std::size_t divideSplit = 48;
 
 /// Decimal text of more groups of 19 digits than this is split. At least 2.
 inline constexpr std::size_t decimalOutSplit = 24;
