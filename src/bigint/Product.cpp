@@ -27,7 +27,8 @@ std::size_t productWorkspace(Magnitude a, Magnitude b) noexcept {
 }
 
 std::size_t quotientWorkspace(Magnitude dividend, Magnitude divisor) noexcept {
-    return 2 * limbCount(dividend.top) + limbCount(divisor.top) + 2;
+    std::size_t const count = limbCount(divisor.top);
+    return 2 * limbCount(dividend.top) + count + 2 + limbs::divideScratch(count);
 }
 
 }  // namespace
@@ -94,7 +95,7 @@ Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
     a[aCount] = shift == 0 ? 0 : limbs::shiftLeft(a, a, aCount, shift);
     if (shift != 0)
         limbs::shiftLeft(d, d, count, shift);
-    limbs::divideNormalized(q, a, aCount + 1, d, count);
+    limbs::divide(q, a, aCount + 1, d, count, workspace.take(0));
     if (shift != 0)
         limbs::shiftRight(a, a, count, shift);
     quotientTop = static_cast<int>(topBit(q, aCount + 1 - count));

@@ -47,7 +47,7 @@ std::string decimalDigits(Magnitude a) noexcept {
     std::size_t const groups = limbs::decimalGroups(count);
     Workspace workspace(count + 1 + limbs::toDecimalScratch(groups));
     limbs::Limb* const rest = workspace.take(count + 1);
-    loadLimbs(rest, a.words, a.top);
+    loadLimbs(rest, count, a.words, a.top);
     std::string digits(groups * limbs::digitsPerGroup, '0');
     limbs::toDecimal(digits.data(), groups, rest, count, workspace.take(0));
     digits.erase(0, digits.find_first_not_of('0'));

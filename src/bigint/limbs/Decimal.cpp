@@ -104,10 +104,10 @@ void write(char* out, std::size_t groups, Limb* a, std::size_t aCount, Powers co
     a[count] = shift == 0 ? 0 : shiftLeft(a, a, count, shift);
     std::size_t const quotientCount = count + 1 - powerCount;
     Limb* const quotient = scratch;
-    divideNormalized(quotient, a + zeros, count + 1 - zeros, divisor, divisorCount);
+    Limb* const rest = scratch + quotientCount + 1;
+    divide(quotient, a + zeros, count + 1 - zeros, divisor, divisorCount, rest);
     if (shift != 0)
         shiftRight(a, a, powerCount, shift);
-    Limb* const rest = scratch + quotientCount + 1;
     write(out, groups - lowGroups, quotient, quotientCount, powers, rest);
     write(lowOut, lowGroups, a, powerCount, powers, rest);
 }
@@ -172,7 +172,8 @@ void read(Limb* out, char const* digits, std::size_t length, Powers const& power
 
 // The quotients of one way down: they halve, with a limb or two more each.
 std::size_t toDecimalScratch(std::size_t groups) noexcept {
-    return Powers::room(groups) + std::max(squareScratch(groups), 2 * groups + 128);
+    return Powers::room(groups)
+           + std::max(squareScratch(groups), 2 * groups + 128 + divideScratch(groups));
 }
 
 void toDecimal(char* out, std::size_t groups, Limb* a, std::size_t count, Limb* scratch) noexcept {

@@ -67,4 +67,9 @@ Limb divideLimb(Limb* quotient, Limb const* a, std::size_t count, Limb divisor) 
 void divideNormalized(Limb* quotient, Limb* a, std::size_t aCount, Limb const* divisor,
                       std::size_t count) noexcept;
 
+/// As divideNormalized, and by halves where that is faster.
+void divide(Limb* quotient, Limb* a, std::size_t aCount, Limb const* divisor, std::size_t count,
+            Limb* scratch) noexcept;
+std::size_t divideScratch(std::size_t count) noexcept;
+
 }  // namespace qel::limbs
