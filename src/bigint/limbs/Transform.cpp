@@ -1,13 +1,9 @@
 // Products by transforms modulo three primes (Pollard, "The fast Fourier transform in a finite
 // field", 1971): the numbers are polynomials at 2^bits, whose product is taken modulo each prime
 // and put together by Garner's method (Knuth 4.3.2).
-//
-// The transform reduces a polynomial modulo x^size - c, then modulo the factors x^(size/2) - w and
-// x^(size/2) + w with w^2 = c, and so on. The factors' w, in the order they come, are the same in
-// every length: one table serves all. The butterflies are Harvey's ("Faster arithmetic for
-// number-theoretic transforms", 2014), products by table entries are Shoup's: numbers stay below
-// 4p < 2^64 and are fully reduced only at the end.
 #include "Transform.h"
+
+#include "Butterflies.h"
 
 #include <algorithm>
 #include <array>
@@ -16,237 +12,6 @@
 namespace qel::limbs {
 
 namespace {
-
-constexpr Limb high(DoubleLimb x) noexcept {
-    return static_cast<Limb>(x >> bitsPerLimb);
-}
-
-/// A factor with the quotient factor * 2^64 / p, rounded down.
-struct Factor {
-    Limb value;
-    Limb quotient;
-};
-
-/// Primes of the form 2^62 - k * 2^32 + 1, and an element of order 2^32.
-struct Prime {
-    Limb p;
-    Limb root;
-};
-
-constexpr Prime primes[] = {{0x3fffffee00000001, 0xf6ad935336aad2},
-                            {0x3fffffb400000001, 0x2efbcbd1f80b862f},
-                            {0x3fffffa000000001, 0x2e0d2163d8fd7ce1}};
-
-/// Arithmetic modulo primes[which].
-template <int which>
-struct Field {
-    static constexpr Limb p = primes[which].p;
-    static constexpr int orderBits = 32;
-    /// 2^128 / p - 4 * 2^64, as 2^64 / p is a little above 4.
-    static constexpr Limb reciprocal = static_cast<Limb>(~DoubleLimb{0} / p);
-
-    static constexpr Limb inverseOfP() noexcept {
-        Limb inverse = p;  // to 3 bits
-        for (int bits = 3; bits < bitsPerLimb; bits *= 2)
-            inverse *= 2 - p * inverse;
-        return inverse;
-    }
-
-    /// x or x - bound, for an x < 2 * bound.
-    static constexpr Limb reduce(Limb x, Limb bound) noexcept { return x >= bound ? x - bound : x; }
-
-    /// x * factor, below 2p, for any x: the quotient x * factor / p is met or missed by one.
-    static constexpr Limb multiply(Limb x, Factor factor) noexcept {
-        return x * factor.value - high(DoubleLimb{x} * factor.quotient) * p;
-    }
-
-    /// For a value < p. The first quotient is short by at most one: `reciprocal` is by less than 1
-    /// and value < 2^62.
-    static constexpr Factor factor(Limb value) noexcept {
-        Limb const quotient = 4 * value + high(DoubleLimb{value} * reciprocal);
-        Limb const rest = 0 - quotient * p;
-        return {value, rest >= p ? quotient + 1 : quotient};
-    }
-
-    /// x / 2^64 (Montgomery), below 2p for an x < p * 2^64.
-    static constexpr Limb shrink(DoubleLimb x) noexcept {
-        Limb const multiple = static_cast<Limb>(x) * inverseOfP();
-        return high(x) + p - high(DoubleLimb{multiple} * p);
-    }
-
-    static constexpr Limb product(Limb a, Limb b) noexcept {
-        return static_cast<Limb>(DoubleLimb{a} * b % p);
-    }
-
-    static constexpr Limb power(Limb base, Limb exponent) noexcept {
-        Limb result = 1;
-        for (; exponent != 0; exponent /= 2, base = product(base, base)) {
-            if (exponent % 2 != 0)
-                result = product(result, base);
-        }
-        return result;
-    }
-
-    static constexpr Factor inverse(Limb value) noexcept { return factor(power(value % p, p - 2)); }
-};
-
-/// Transforms modulo one prime.
-template <int which>
-class Transform {
-  public:
-    using F = Field<which>;
-
-    /// `count` entries, a power of two.
-    Transform(Factor* table, std::size_t count) noexcept : w(table) {
-        table[0] = F::factor(1);
-        int log = 0;
-        for (std::size_t block = 1; block < count; block *= 2, ++log) {
-            // Entry `block` has order 4 * block, the others of its block are multiples.
-            Factor const first =
-                F::factor(F::power(primes[which].root, Limb{1} << (F::orderBits - 2 - log)));
-            for (std::size_t i = 0; i < block; ++i)
-                table[block + i] = F::factor(F::reduce(F::multiply(table[i].value, first), F::p));
-        }
-    }
-
-    /// Reduces modulo all factors of x^size - c, where c belongs to `node`: 1 for node 0, i for
-    /// node 2. In: below 4p; out: below 4p.
-    void forward(Limb* x, std::size_t size, std::size_t node) const noexcept {
-        if (size <= 2) {
-            if (size == 2)
-                split(x, 1, node);
-            return;
-        }
-        if (size > depthFirst) {
-            splitTwice(x, size / 4, node);
-            for (std::size_t i = 0; i < 4; ++i)
-                forward(x + i * (size / 4), size / 4, 4 * node + i);
-            return;
-        }
-        std::size_t quarter = size / 4;
-        std::size_t nodes = 1;
-        for (; quarter > 0; quarter /= 4, nodes *= 4) {
-            for (std::size_t j = 0; j < nodes; ++j)
-                splitTwice(x + 4 * quarter * j, quarter, nodes * node + j);
-        }
-        if (nodes < size) {
-            for (std::size_t j = 0; j < nodes; ++j)
-                split(x + 2 * j, 1, nodes * node + j);
-        }
-    }
-
-    /// Undoes `forward`, times size. In: below 2p; out: below 2p.
-    void backward(Limb* x, std::size_t size, std::size_t node) const noexcept {
-        if (size <= 2) {
-            if (size == 2)
-                join(x, 1, node);
-            return;
-        }
-        if (size > depthFirst) {
-            for (std::size_t i = 0; i < 4; ++i)
-                backward(x + i * (size / 4), size / 4, 4 * node + i);
-            joinTwice(x, size / 4, node);
-            return;
-        }
-        std::size_t nodes = size / 4;
-        std::size_t quarter = 1;
-        if (std::countr_zero(size) % 2 != 0) {
-            for (std::size_t j = 0; j < size / 2; ++j)
-                join(x + 2 * j, 1, size / 2 * node + j);
-            nodes = size / 8;
-            quarter = 2;
-        }
-        for (; nodes > 0; nodes /= 4, quarter *= 4) {
-            for (std::size_t j = 0; j < nodes; ++j)
-                joinTwice(x + 4 * quarter * j, quarter, nodes * node + j);
-        }
-    }
-
-    /// i, a square root of -1.
-    [[nodiscard]] Factor i() const noexcept { return w[1]; }
-
-  private:
-    /// Up to so many points the levels are done one after the other.
-    static constexpr std::size_t depthFirst = 4096;
-
-    // In: any below 4p; out: below 4p.
-    static void butterfly(Limb& a, Limb& b, Factor factor) noexcept {
-        Limb const even = F::reduce(a, 2 * F::p);
-        Limb const odd = F::multiply(b, factor);
-        a = even + odd;
-        b = even + 2 * F::p - odd;
-    }
-
-    // In: below 2p; out: below 2p. The factor is negated, so the difference is, too.
-    static void joinPair(Limb& a, Limb& b, Factor negated) noexcept {
-        Limb const difference = b + 2 * F::p - a;
-        a = F::reduce(a + b, 2 * F::p);
-        b = F::multiply(difference, negated);
-    }
-
-    void split(Limb* x, std::size_t half, std::size_t node) const noexcept {
-        for (std::size_t i = 0; i < half; ++i)
-            butterfly(x[i], x[i + half], w[node]);
-    }
-
-    void join(Limb* x, std::size_t half, std::size_t node) const noexcept {
-        for (std::size_t i = 0; i < half; ++i)
-            joinPair(x[i], x[i + half], negatedInverse(node));
-    }
-
-    void splitTwice(Limb* x, std::size_t quarter, std::size_t node) const noexcept {
-        Factor const first = w[node];
-        Factor const left = w[2 * node];
-        Factor const right = w[2 * node + 1];
-        for (std::size_t i = 0; i < quarter; ++i) {
-            Limb a = x[i];
-            Limb b = x[i + quarter];
-            Limb c = x[i + 2 * quarter];
-            Limb d = x[i + 3 * quarter];
-            butterfly(a, c, first);
-            butterfly(b, d, first);
-            butterfly(a, b, left);
-            butterfly(c, d, right);
-            x[i] = a;
-            x[i + quarter] = b;
-            x[i + 2 * quarter] = c;
-            x[i + 3 * quarter] = d;
-        }
-    }
-
-    void joinTwice(Limb* x, std::size_t quarter, std::size_t node) const noexcept {
-        Factor const first = negatedInverse(node);
-        Factor const left = negatedInverse(2 * node);
-        Factor const right = negatedInverse(2 * node + 1);
-        for (std::size_t i = 0; i < quarter; ++i) {
-            Limb a = x[i];
-            Limb b = x[i + quarter];
-            Limb c = x[i + 2 * quarter];
-            Limb d = x[i + 3 * quarter];
-            joinPair(a, b, left);
-            joinPair(c, d, right);
-            joinPair(a, c, first);
-            joinPair(b, d, first);
-            x[i] = a;
-            x[i + quarter] = b;
-            x[i + 2 * quarter] = c;
-            x[i + 3 * quarter] = d;
-        }
-    }
-
-    /// -1 / w[node]. Bit t of a node stands for the angle 2^-(t + 2) of a turn; with the bits below
-    /// the highest inverted, two angles add up to one half, and the product is -1.
-    [[nodiscard]] Factor negatedInverse(std::size_t node) const noexcept {
-        if (node == 0)
-            return F::factor(F::p - 1);
-        return w[3 * std::bit_floor(node) - 1 - node];
-    }
-
-    Factor const* w;
-};
-
-// --- the polynomials
-// ------------------------------------------------------------------------------
 
 /// How a product is cut: coefficients of `bits` bits, `aCount` and `bCount` of them, and `size`
 /// points, a power of two or three times one.
@@ -399,7 +164,7 @@ class Accumulator {
             Limb const shifted = (limb << shift) | (shift == 0 ? 0 : below >> (64 - shift));
             DoubleLimb const total = DoubleLimb{sum[i]} + shifted + carry;
             sum[i] = static_cast<Limb>(total);
-            carry = high(total);
+            carry = upperLimb(total);
             below = limb;
         }
     }
@@ -442,11 +207,11 @@ void recombine(Limb* out, std::size_t count, Limb const* r0, Limb const* r1, Lim
         Limb const partial = F2::multiply(r2[j] + 2 * F2::p - d0, inverse02);
         Limb const d2 = F2::reduce(F2::multiply(partial + 2 * F2::p - d1, inverse12), F2::p);
         DoubleLimb const low = DoubleLimb{d2} * static_cast<Limb>(both);
-        DoubleLimb const middle = DoubleLimb{d2} * high(both);
+        DoubleLimb const middle = DoubleLimb{d2} * upperLimb(both);
         DoubleLimb const small = DoubleLimb{d1} * p0 + d0;
         DoubleLimb const first = DoubleLimb{static_cast<Limb>(low)} + static_cast<Limb>(small);
-        DoubleLimb const rest = middle + high(low) + high(small) + high(first);
-        Limb const value[3] = {static_cast<Limb>(first), static_cast<Limb>(rest), high(rest)};
+        DoubleLimb const rest = middle + upperLimb(low) + upperLimb(small) + upperLimb(first);
+        Limb const value[3] = {static_cast<Limb>(first), static_cast<Limb>(rest), upperLimb(rest)};
         sum.add(value, j * static_cast<std::size_t>(plan.bits));
     }
     sum.finish();
