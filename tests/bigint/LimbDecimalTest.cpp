@@ -1,39 +1,39 @@
 // Decimal text at limb level: by halves as by single groups, at lengths around every split.
-#include "LimbTesting.h"
+#include "LimbTables.h"
 
 #include "bigint/limbs/Decimal.h"
 #include "bigint/limbs/Thresholds.h"
 
 namespace {
 
-using namespace limbs_test;
+using namespace limb_test;
 using namespace qel::limbs;
 
-std::string plainDecimal(Number rest, std::size_t groups) {
+std::string plainDecimal(Limbs rest, std::size_t groups) {
     std::string digits(groups * digitsPerGroup, '0');
     for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit)
         *digit = static_cast<char>('0' + divideLimb(rest.data(), rest.data(), rest.size(), 10));
     return digits;
 }
 
-std::string decimal(Number const& value, std::size_t groups) {
-    Number withRoom = value;
+std::string decimal(Limbs const& value, std::size_t groups) {
+    Limbs withRoom = value;
     withRoom.push_back(0);
     Fenced limbs(withRoom);
     Fenced scratch(toDecimalScratch(groups));
     std::string digits(groups * digitsPerGroup, '?');
     toDecimal(digits.data(), groups, limbs.data(), value.size(), scratch.data());
-    EXPECT_TRUE(limbs.intact() && scratch.intact()) << show(value);
+    EXPECT_TRUE(limbs.intact() && scratch.intact()) << text(value);
     return digits;
 }
 
-Number parsed(std::string const& digits) {
+Limbs parsed(std::string const& digits) {
     std::size_t const groups = (digits.size() - 1) / digitsPerGroup + 1;
     Fenced out(groups);
     Fenced scratch(fromDecimalScratch(groups));
     fromDecimal(out.data(), digits.data(), digits.size(), scratch.data());
     EXPECT_TRUE(out.intact() && scratch.intact()) << digits;
-    return out.value();
+    return out.values();
 }
 
 /// Lengths in groups: up to beyond the splits, and around powers of two.
@@ -47,20 +47,20 @@ std::vector<std::size_t> lengths() {
 }
 
 TEST(LimbDecimal, WritesWhatSingleDigitsWouldBe) {
-    std::mt19937_64 random(1);
+    Operands operands(1);
     for (std::size_t count : lengths()) {
         for (Pattern pattern : patterns) {
-            Number const value = number(count, pattern, random);
+            Limbs const value = operands.make(pattern, count);
             std::size_t const groups = decimalGroups(count);
-            ASSERT_EQ(decimal(value, groups), plainDecimal(value, groups)) << show(value);
+            ASSERT_EQ(decimal(value, groups), plainDecimal(value, groups)) << text(value);
         }
     }
 }
 
 TEST(LimbDecimal, ReadsBackWhatItWrites) {
-    std::mt19937_64 random(2);
+    Operands operands(2);
     for (std::size_t count : lengths()) {
-        Number value = anyNumber(count, random);
+        Limbs value = operands.any(count);
         std::string const digits = decimal(value, decimalGroups(count));
         value.resize(decimalGroups(count));
         ASSERT_EQ(parsed(digits), value) << digits;
@@ -71,7 +71,7 @@ TEST(LimbDecimal, ReadsTheLargestNumberOfEveryLength) {
     for (std::size_t groups : lengths()) {
         for (std::size_t missing : {0U, 1U, 18U}) {
             std::string const nines(groups * digitsPerGroup - missing, '9');
-            Number const value = parsed(nines);
+            Limbs const value = parsed(nines);
             std::string const padded = std::string(missing, '0') + nines;
             ASSERT_EQ(plainDecimal(value, groups), padded);
             ASSERT_EQ(decimal(value, groups), padded);
@@ -85,7 +85,7 @@ TEST(LimbDecimal, PowersOfTenAndTheirNeighboursSplitExactly) {
             std::string const power = '1' + std::string(digits - 1, '0');
             std::string const padding(groups * 19 - digits, '0');
             ASSERT_EQ(decimal(parsed(power), groups), padding + power);
-            Number below = parsed(power);
+            Limbs below = parsed(power);
             subtractLimb(below.data(), below.data(), below.size(), 1);
             ASSERT_EQ(decimal(below, groups), padding + '0' + std::string(digits - 1, '9'));
         }

@@ -1,6 +1,6 @@
 // Products of every method against the rows, at lengths around every threshold and cut, with
 // exactly the scratch that is asked for.
-#include "LimbTesting.h"
+#include "LimbTables.h"
 
 #include "bigint/limbs/Kernels.h"
 #include "bigint/limbs/Thresholds.h"
@@ -8,11 +8,11 @@
 
 namespace {
 
-using namespace limbs_test;
+using namespace limb_test;
 using namespace qel::limbs;
 
-Number byRows(Number const& a, Number const& b) {
-    Number out(a.size() + b.size());
+Limbs byRows(Limbs const& a, Limbs const& b) {
+    Limbs out(a.size() + b.size());
     portableKernels.multiplyRows(out.data(), a.data(), a.size(), b.data(), b.size());
     return out;
 }
@@ -20,19 +20,19 @@ Number byRows(Number const& a, Number const& b) {
 using Kernel = void (*)(Limb*, Limb const*, std::size_t, Limb const*, std::size_t, Limb*);
 using ScratchSize = std::size_t (*)(std::size_t, std::size_t);
 
-void expectProduct(Kernel kernel, ScratchSize scratchSize, Number const& a, Number const& b) {
+void expectProduct(Kernel kernel, ScratchSize scratchSize, Limbs const& a, Limbs const& b) {
     Fenced out(a.size() + b.size());
     Fenced scratch(scratchSize(a.size(), b.size()));
     kernel(out.data(), a.data(), a.size(), b.data(), b.size(), scratch.data());
-    ASSERT_EQ(out.value(), byRows(a, b)) << show(a) << " times " << show(b);
+    ASSERT_EQ(out.values(), byRows(a, b)) << text(a) << " times " << text(b);
     ASSERT_TRUE(out.intact() && scratch.intact()) << a.size() << " by " << b.size();
 }
 
-void expectSquare(Number const& a) {
+void expectSquare(Limbs const& a) {
     Fenced out(2 * a.size());
     Fenced scratch(squareScratch(a.size()));
     square(out.data(), a.data(), a.size(), scratch.data());
-    ASSERT_EQ(out.value(), byRows(a, a)) << show(a);
+    ASSERT_EQ(out.values(), byRows(a, a)) << text(a);
     ASSERT_TRUE(out.intact() && scratch.intact()) << a.size();
 }
 
@@ -45,64 +45,64 @@ std::vector<std::size_t> edges() {
     return all;
 }
 
-TEST(LimbProducts, EqualLengthsAroundEveryThreshold) {
-    std::mt19937_64 random(1);
+TEST(LongProduct, EqualLengthsAroundEveryThreshold) {
+    Operands operands(1);
     for (std::size_t count : edges()) {
         for (Pattern pattern : patterns) {
-            Number const a = number(count, pattern, random);
-            expectProduct(multiply, multiplyScratch, a, anyNumber(count, random));
+            Limbs const a = operands.make(pattern, count);
+            expectProduct(multiply, multiplyScratch, a, operands.any(count));
             expectProduct(multiply, multiplyScratch, a, a);
             expectSquare(a);
         }
     }
 }
 
-TEST(LimbProducts, LongerOperandsAreSliced) {
-    std::mt19937_64 random(2);
+TEST(LongProduct, LongerOperandsAreSliced) {
+    Operands operands(2);
     for (std::size_t count : edges()) {
         for (std::size_t longer :
              {count + 1, count + count / 2, 2 * count - 1, 2 * count, 2 * count + 1, 3 * count,
               3 * count + 1, 5 * count + count / 3, 7 * count - 1}) {
             for (Pattern pattern : {Pattern::ones, Pattern::runs}) {
-                Number const a = number(longer, pattern, random);
-                expectProduct(multiply, multiplyScratch, a, anyNumber(count, random));
+                Limbs const a = operands.make(pattern, longer);
+                expectProduct(multiply, multiplyScratch, a, operands.any(count));
             }
         }
     }
 }
 
-TEST(LimbProducts, TransformsOfEveryShortLength) {
-    std::mt19937_64 random(3);
+TEST(LongProduct, TransformsOfEveryShortLength) {
+    Operands operands(3);
     for (std::size_t aCount = 1; aCount <= 80; ++aCount) {
         for (std::size_t bCount : {std::size_t{1}, aCount / 2 + 1, aCount, aCount + 5}) {
-            Number const a = anyNumber(aCount, random);
-            expectProduct(multiplyByTransform, transformScratch, a, anyNumber(bCount, random));
+            Limbs const a = operands.any(aCount);
+            expectProduct(multiplyByTransform, transformScratch, a, operands.any(bCount));
             expectProduct(multiplyByTransform, transformScratch, a, a);
         }
     }
 }
 
-TEST(LimbProducts, TransformsOfLongNumbersOfOnes) {
+TEST(LongProduct, TransformsOfLongNumbersOfOnes) {
     for (std::size_t count : {1000U, 1500U, 2100U, 3000U, 5200U}) {
-        Number const a(count, ~Limb{0});
-        expectProduct(multiplyByTransform, transformScratch, a, Number(count, ~Limb{0}));
-        expectProduct(multiplyByTransform, transformScratch, a, Number(count / 3, ~Limb{0}));
+        Limbs const a(count, allOnes);
+        expectProduct(multiplyByTransform, transformScratch, a, Limbs(count, allOnes));
+        expectProduct(multiplyByTransform, transformScratch, a, Limbs(count / 3, allOnes));
         expectSquare(a);
     }
 }
 
 /// (2^(64 n) - 1)^2 = 2^(128 n) - 2^(64 n + 1) + 1: the largest coefficients there are. The lengths
 /// lie around 22,016 and 87,000 limbs, where the coefficients become a bit narrower.
-TEST(LimbProducts, TheLargestCoefficientsFit) {
+TEST(LongProduct, TheLargestCoefficientsFit) {
     for (std::size_t count : {21995U, 22001U, 22020U, 86950U, 87100U}) {
-        Number const a(count, ~Limb{0});
-        Number out(2 * count);
-        Number scratch(transformScratch(count, count));
+        Limbs const a(count, allOnes);
+        Limbs out(2 * count);
+        Limbs scratch(transformScratch(count, count));
         multiplyByTransform(out.data(), a.data(), count, a.data(), count, scratch.data());
-        Number expected(2 * count, ~Limb{0});
+        Limbs expected(2 * count, allOnes);
         std::fill(expected.begin(), expected.begin() + static_cast<std::ptrdiff_t>(count), Limb{0});
         expected[0] = 1;
-        expected[count] = ~Limb{0} - 1;
+        expected[count] = allOnes - 1;
         ASSERT_EQ(out, expected) << count;
     }
 }
