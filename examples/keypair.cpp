@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <iostream>
 #include <optional>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -139,17 +140,19 @@ bool survivesAFile(qel::RSAKey const& key, std::string const& folder, char const
 
 /// Keeps both keys in files of a new folder, and leaves nothing behind.
 bool surviveFiles(qel::RSAKey const& first, qel::RSAKey const& second) {
-    std::string const name =
-        "qel-keypair-" + std::to_string(qel::Date::GetCurrentDate().GetMillisecondsSinceEpoch());
-    std::string const folder =
-        qel::Folder::ConcatenatePaths(std::filesystem::temp_directory_path().c_str(), name.c_str());
-    if (!qel::Folder::MakeDirectory(folder.c_str()))
+    // Two of us may run at the same moment: a name that nobody else has.
+    std::string const name = "qel-keypair-" + std::to_string(std::random_device()());
+    std::error_code ignored;
+    std::string const folder = qel::Folder::ConcatenatePaths(
+        std::filesystem::temp_directory_path(ignored).c_str(), name.c_str());
+    if (!qel::Folder::MakeDirectory(folder.c_str())) {
+        std::cerr << "qel-keypair: cannot make the folder " << folder << '\n';
         return false;
+    }
     std::cout << "Files\n";
     bool same = survivesAFile(first, folder, "first.key");
     same = survivesAFile(second, folder, "second.key") && same;
     std::cout << '\n';
-    std::error_code ignored;
     std::filesystem::remove(folder, ignored);
     return same && !qel::File::Exists(folder.c_str());
 }

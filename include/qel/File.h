@@ -70,7 +70,8 @@ class File {
 
     /// @}
     /// @name Files
-    /// Relative paths go from the working directory. Links are followed, except by `Delete`.
+    /// Relative paths go from the working directory. Links are followed; only `Delete` takes one
+    /// itself.
     /// @{
 
     /// True for anything that is there, files and folders alike; false for a dangling link.
@@ -89,7 +90,8 @@ class File {
     [[nodiscard]] static bool SetInvisible(char const* path) noexcept;
     /// Leaves a folder alone, and calls that a success, as it does for what does not exist.
     ///
-    /// A link is deleted itself. False only when the system refuses to delete a file.
+    /// A link to a file is deleted itself, not its target; one to a folder or to nothing is left.
+    /// False only when the system refuses to delete a file.
     static bool Delete(char const* path) noexcept;
     /// True when what exists can be written to, or else its parent, by `GetParentFolder`, can.
     ///

@@ -69,7 +69,9 @@ bool File::WriteStringToFile(std::string const& text, char const* path, bool app
         return false;
     if (!append && !Delete(path))
         return false;
-    std::ofstream file(path, append ? std::ios::out | std::ios::app : std::ios::out);
+    std::ofstream file;
+    file.imbue(std::locale::classic());
+    file.open(path, append ? std::ios::out | std::ios::app : std::ios::out);
     if (!file.is_open())
         return false;
     file.write(text.data(), static_cast<std::streamsize>(text.size()));

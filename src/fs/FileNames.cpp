@@ -5,14 +5,16 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
 
 namespace qel {
 
 namespace {
 
-/// The position of the last slash or backslash; -1 when there is none.
-int lastSeparator(char const* path) noexcept {
-    return CharFunctions::IndexOfLastOccurence(path, "/\\");
+/// The position of the last slash or backslash; when there is none the no-position value, one
+/// before 0.
+std::size_t lastSeparator(char const* path) noexcept {
+    return std::string_view(path).find_last_of("/\\");
 }
 
 char const* fileName(char const* path) noexcept {
@@ -50,7 +52,8 @@ bool File::IsFileNameNativeStyle(char const* path) noexcept {
 }
 
 std::string File::GetParentFolder(char const* path) noexcept {
-    return std::string(path, static_cast<std::size_t>(std::max(lastSeparator(path), 0)));
+    std::size_t const separator = lastSeparator(path);
+    return separator == std::string_view::npos ? std::string() : std::string(path, separator);
 }
 
 std::string File::GetFileName(char const* path) noexcept {

@@ -59,6 +59,13 @@ comes_back "$(printf 'caf\303\251')" --bits 64 --seeds 1
 # Both halves of these seeds draw the same prime: nothing can come back, and it is said so.
 "$program" --bits 64 --seeds 5,5 >/dev/null && fail 'equal primes: exit code 0'
 
+# A folder that cannot be made is told from keys that do not agree.
+complaint=$(TMPDIR=/proc "$program" --bits 64 2>&1 >/dev/null) && fail 'no folder: exit code 0'
+case $complaint in
+"qel-keypair: cannot make the folder /proc/"*) ;;
+*) fail "no folder: complained '$complaint'" ;;
+esac
+
 rmdir "$temporary" || fail "left behind in $temporary: $(ls -a "$temporary")"
 
 [ "$failures" = 0 ]

@@ -138,10 +138,10 @@ TEST_F(Files, AFileInAFolderThatCannotBeSearchedIsNotThere) {
 
 TEST_F(Files, SizesAreInBytesAndMissingOnesZero) {
     makeFile("empty");
-    makeFile("three", "a\0b");
+    makeFile("three", std::string("a\0b", 3));
     makeFile("four", std::string("a\0b\n", 4));
     EXPECT_EQ(File::GetSize("empty"), 0);
-    EXPECT_EQ(File::GetSize("three"), 1);
+    EXPECT_EQ(File::GetSize("three"), 3);
     EXPECT_EQ(File::GetSize("four"), 4);
     EXPECT_EQ(File::GetSize("missing"), 0);
 }
