@@ -75,6 +75,14 @@ TEST(GreatestCommonDivisor, UsesUpTheOperandsOfTheSubtractiveForm) {
     EXPECT_TRUE(a.isZero() != b.isZero());
 }
 
+TEST(GreatestCommonDivisor, OfTwoNegativesIsNegativeAndLeavesAPlainZero) {
+    LargeInteger a(-12);
+    LargeInteger b(-18);
+    EXPECT_EQ(LargeInteger::simpleGCD(&a, &b), LargeInteger(-6));
+    EXPECT_EQ(books(a.isZero() ? a : b).negative, false);
+    EXPECT_EQ(LargeInteger(-12).findGreatestCommonDivisor(LargeInteger(-18)), LargeInteger(-6));
+}
+
 TEST(GreatestCommonDivisor, LeavesTheObjectAndMayTakeItAsOperand) {
     LargeInteger const v(36);
     EXPECT_EQ(v.findGreatestCommonDivisor(LargeInteger(48)), LargeInteger(12));
