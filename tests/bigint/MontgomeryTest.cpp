@@ -2,6 +2,7 @@
 // multiplying on the plain model.
 #include "LimbTables.h"
 
+#include "bigint/limbs/Montgomery.h"
 #include "bigint/limbs/Power.h"
 #include "bigint/limbs/Thresholds.h"
 #include "model/PlainInteger.h"

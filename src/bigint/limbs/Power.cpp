@@ -4,8 +4,7 @@
 // with windows from the top, and the last factor comes out by itself.
 #include "Power.h"
 
-#include "Kernels.h"
-#include "Thresholds.h"
+#include "Montgomery.h"
 
 #include <algorithm>
 #include <array>
@@ -14,68 +13,6 @@
 namespace qel::limbs {
 
 namespace {
-
-/// Products modulo an odd number, in Montgomery's representation. All numbers have its count of
-/// limbs.
-class MontgomeryContext {
-  public:
-    MontgomeryContext(Limb const* m, std::size_t limbCount, Limb* productAndScratch) noexcept
-        : modulus(m), count(limbCount), inverse(negatedInverse(m[0])), product(productAndScratch),
-          scratch(productAndScratch + 2 * limbCount) {}
-
-    void multiply(Limb* out, Limb const* a, Limb const* b) const noexcept {
-        limbs::multiply(product, a, count, b, count, scratch);
-        kernels().reduce(out, product, modulus, count, inverse);
-    }
-
-    void square(Limb* out, Limb const* a) const noexcept {
-        limbs::square(product, a, count, scratch);
-        kernels().reduce(out, product, modulus, count, inverse);
-    }
-
-    /// Out of Montgomery's representation.
-    void leave(Limb* out, Limb const* a) const noexcept {
-        std::copy(a, a + count, product);
-        std::fill(product + count, product + 2 * count, Limb{0});
-        kernels().reduce(out, product, modulus, count, inverse);
-    }
-
-    /// Into Montgomery's representation: a * 2^(64 count) mod modulus, by one long division.
-    void enter(Limb* out, Limb const* a) const noexcept;
-
-  private:
-    Limb const* modulus;
-    std::size_t count;
-    Limb inverse;
-    Limb* product;
-    Limb* scratch;
-};
-
-void MontgomeryContext::enter(Limb* out, Limb const* a) const noexcept {
-    int const shift = std::countl_zero(modulus[count - 1]);
-    if (count == 1) {
-        Limb const shifted[2] = {0, a[0]};
-        Limb quotient[2];
-        out[0] = divideLimb(quotient, shifted, 2, modulus[0]);
-        return;
-    }
-    // a and the modulus shifted up alike; the rest comes down again.
-    Limb* const divisor = scratch;
-    Limb* const quotient = scratch + count;
-    Limb* const dividend = product;
-    std::fill(dividend, dividend + count, Limb{0});
-    std::copy(a, a + count, dividend + count);
-    std::copy(modulus, modulus + count, divisor);
-    if (shift != 0) {
-        shiftLeft(divisor, divisor, count, shift);
-        shiftLeft(dividend + count, dividend + count, count, shift);
-    }
-    divideNormalized(quotient, dividend, 2 * count, divisor, count);
-    if (shift != 0)
-        shiftRight(out, dividend, count, shift);
-    else
-        std::copy(dividend, dividend + count, out);
-}
 
 /// Products modulo any number, each reduced by division.
 class DivisionContext {
@@ -181,14 +118,6 @@ bool joinBuckets(Buckets& buckets, std::size_t bucketCount, Context const& conte
 }
 
 }  // namespace
-
-// Newton: an inverse modulo 2^k is one modulo 2^(2k) after a step; odd * odd = 1 modulo 8.
-Limb negatedInverse(Limb odd) noexcept {
-    Limb inverse = odd;
-    for (int bits = 3; bits < bitsPerLimb; bits *= 2)
-        inverse *= 2 - odd * inverse;
-    return 0 - inverse;
-}
 
 // The current power and the joined product, the buckets, and what the larger context needs.
 std::size_t powerScratch(std::size_t count, long long top) noexcept {

@@ -5,9 +5,6 @@
 
 namespace qel::limbs {
 
-/// -1 / odd modulo 2^64.
-[[nodiscard]] Limb negatedInverse(Limb odd) noexcept;
-
 /// The two factors of base^e mod modulus that its last multiplication joins.
 ///
 /// With 2^top the highest bit of e, highest = base^(2^top) and lower = base^(e - 2^top), both
