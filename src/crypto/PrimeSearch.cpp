@@ -1,19 +1,24 @@
-// The search for a probable prime: a start drawn from the seeds, then blocks of odd numbers above
-// it, each screened by small divisors before its survivors are tested one by one.
+// The search for a probable prime: a start drawn from the seeds, then the odd numbers above it in
+// blocks. Screening strikes nearly all of them, and the first of the rest that passes the test is
+// the result.
 #include "qel/PrimesNumber.h"
 
 #include "qel/Random.h"
 
-#include "../bigint/Words.h"
-#include "Sieve.h"
+#include "../bigint/Storage.h"
+#include "NumberLimbs.h"
+#include "Screening.h"
+#include "Witnesses.h"
 
 #include <algorithm>
+#include <array>
 
 namespace qel {
 
 namespace {
 
-constexpr int screeningLimit = 15000;
+using internal::Screening;
+using limbs::Limb;
 
 LargeInteger startingValue(int bitCount, int const* seeds, int seedCount) noexcept {
     LargeInteger start;
@@ -33,55 +38,98 @@ long long blockLength(int bitCount) noexcept {
     return std::max(1024LL, bitCount / 20 * 64LL);
 }
 
-/// The index in the block of the first odd multiple of q above the base; a multiple that is q
-/// itself does not count. Index i stands for base + 2i + 1.
-long long firstStruckIndex(LargeInteger const& base, int q) noexcept {
-    LargeInteger quotient(base);
-    LargeInteger remainder;
-    quotient.divideBy(LargeInteger(q), remainder);
-    long long distance = q - remainder.toInteger();
-    if (quotient.isZero())
-        distance += q;
-    return distance % 2 != 0 ? (distance - 1) / 2 : (distance + q - 1) / 2;
-}
-
-/// The block of `length` odd numbers above the even base, with a set bit for each that has a
-/// divisor 2p + 1, where p is 1 or a prime below the limit.
-///
-/// Twice a prime plus one, not the primes themselves: 13, 17, 19 and 29 never strike. The set of
-/// candidates that reach the test, and with it the prime that is found, rests on this.
-LargeInteger struckCandidates(LargeInteger const& base, LargeInteger const& composites,
-                              int length) noexcept {
-    LargeInteger struck;
-    reserveBits(struck, length);
-    for (int p = composites.findNextClearBit(0); p < screeningLimit;
-         p = composites.findNextClearBit(p + 1)) {
-        int const q = 2 * p + 1;
-        for (long long i = firstStruckIndex(base, q); i < length; i += q)
-            struck.setBit(static_cast<int>(i));
+/// Walks over the candidates in ascending order. Those that screening leaves are gathered until
+/// there are as many as are tested at once.
+class CandidateWalk {
+  public:
+    /// @param base even; `limbCount` limbs are room for it and for as far as the walk goes
+    CandidateWalk(LargeInteger const& base, std::size_t limbCount, int witnessLimit,
+                  Workspace& workspace) noexcept
+        : count(limbCount), witnessCount(witnessLimit),
+          screening(copied(base, workspace.take(count), count), count, witnessCount,
+                    workspace.take(internal::screeningScratch(count))),
+          most(internal::numbersAtOnce(count)),
+          scratch(workspace.take(internal::witnessScratch(count))) {
+        for (std::size_t k = 0; k < most; ++k)
+            candidates[k] = workspace.take(count);
     }
-    return struck;
-}
+
+    static std::size_t limbsNeeded(std::size_t count) noexcept {
+        return (1 + internal::mostNumbersAtOnce) * count + internal::screeningScratch(count)
+               + internal::witnessScratch(count);
+    }
+
+    /// The index of the first of the next `length` odd numbers that passes; -1 when none does.
+    [[nodiscard]] int findPassing(int length) noexcept {
+        for (int first = 0; first < length;) {
+            int const step = std::min(length - first, Screening::windowLength);
+            int const found = findInWindow(first, step);
+            if (found >= 0)
+                return found;
+            screening.advance(step);
+            first += step;
+        }
+        return testGathered();
+    }
+
+  private:
+    static Limb const* copied(LargeInteger const& base, Limb* out, std::size_t count) noexcept {
+        internal::copyLimbs(out, count, base);
+        return out;
+    }
+
+    int findInWindow(int first, int length) noexcept {
+        Screening::Window const struck = screening.window(length);
+        for (int i = 0; i < length; ++i) {
+            if (struck[static_cast<std::size_t>(i)])
+                continue;
+            limbs::addLimb(candidates[gathered], screening.base(), count,
+                           2 * static_cast<Limb>(i) + 1);
+            indices[gathered++] = first + i;
+            int const found = gathered == most ? testGathered() : -1;
+            if (found >= 0)
+                return found;
+        }
+        return -1;
+    }
+
+    /// The index of the first one gathered that passes, -1 when none does; then gathers anew.
+    int testGathered() noexcept {
+        std::size_t const number = gathered;
+        gathered = 0;
+        int const found =
+            internal::findPassing({candidates.data(), number}, count, witnessCount, scratch);
+        return found < 0 ? -1 : indices[static_cast<std::size_t>(found)];
+    }
+
+    std::size_t count;
+    int witnessCount;
+    Screening screening;
+    std::size_t most;
+    Limb* scratch;
+    std::size_t gathered = 0;
+    std::array<Limb*, internal::mostNumbersAtOnce> candidates;
+    std::array<int, internal::mostNumbersAtOnce> indices;
+};
 
 }  // namespace
 
 LargeInteger PrimesNumber::createProbablePrime(int bitCount, int witnessCount, int const* seeds,
                                                int seedCount) noexcept {
-    LargeInteger composites;
-    sievePrimes(composites, screeningLimit);
     LargeInteger base = startingValue(bitCount, seeds, seedCount);
     int const length = checkedPosition(blockLength(bitCount));
+    LargeInteger const blockSpan(2LL * length);
+    // A block begins below 2^bitCount, the last one, and what is above that is less than three of
+    // them.
+    std::size_t const count = limbCount(std::max(bitCount, 0)) + 1;
+    Workspace workspace(CandidateWalk::limbsNeeded(count));
+    CandidateWalk walk(base + blockSpan, count, witnessCount, workspace);
     while (base.getHighestBit() < bitCount) {
         // Before the first block too: the stretch just above the start is never searched.
-        base += LargeInteger(2LL * length);
-        LargeInteger const struck = struckCandidates(base, composites, length);
-        for (int i = 0; i < length; ++i) {
-            if (struck[i] != 0)
-                continue;
-            LargeInteger const candidate = base + LargeInteger(2U * static_cast<unsigned>(i) + 1U);
-            if (isProbablyPrime(candidate, witnessCount))
-                return LargeInteger(candidate);
-        }
+        base += blockSpan;
+        int const index = walk.findPassing(length);
+        if (index >= 0)
+            return base + LargeInteger(2U * static_cast<unsigned int>(index) + 1U);
     }
     return LargeInteger();
 }

@@ -1,11 +1,10 @@
-// The verdict on one number: trial division for small ones, Miller-Rabin (Rabin, "Probabilistic
-// algorithm for testing primality", 1980) with fixed witnesses for the rest.
+// The verdict on one number: trial division for small ones, strong tests with fixed witnesses for
+// the rest.
 #include "qel/PrimesNumber.h"
 
-#include "../bigint/EndProcess.h"
-#include "Sieve.h"
-
-#include <climits>
+#include "../bigint/Storage.h"
+#include "NumberLimbs.h"
+#include "Witnesses.h"
 
 namespace qel {
 
@@ -28,46 +27,6 @@ bool passesTrialDivision(int value) noexcept {
     return true;
 }
 
-/// The composites up to a multiple of 256, far enough for `witnessCount` odd primes.
-LargeInteger witnessSieve(int witnessCount) noexcept {
-    constexpr int growth = 256;
-    LargeInteger composites;
-    int limit = 0;
-    int primesAndOne = 0;
-    do {
-        if (limit > INT_MAX - growth)
-            endProcessTooWide();
-        limit += growth;
-        sievePrimes(composites, limit);
-        primesAndOne = limit - composites.countNumberOfSetBits();
-    } while (witnessCount + 1LL >= primesAndOne);
-    return composites;
-}
-
-/// n - 1 = oddPart * 2^twos, the numbers that every witness is tested with.
-struct MillerRabin {
-    explicit MillerRabin(LargeInteger const& candidate) noexcept
-        : n(candidate), minusOne(n - LargeInteger(1)), twos(minusOne.findNextSetBit(0)),
-          oddPart(minusOne >> twos) {}
-
-    [[nodiscard]] bool passes(int witness) const noexcept {
-        LargeInteger y(witness);
-        y.exponentModulo(oddPart, n);
-        if (y.isOne() || y == minusOne)
-            return true;
-        // One squaring more than the textbook has; it could only matter for a composite with
-        // witness^(n-1) = -1 (mod n).
-        for (int squarings = 0; squarings < twos && y != minusOne; ++squarings)
-            y.exponentModulo(LargeInteger(2), n);
-        return y == minusOne;
-    }
-
-    LargeInteger const& n;
-    LargeInteger minusOne;
-    int twos;
-    LargeInteger oddPart;
-};
-
 }  // namespace
 
 bool PrimesNumber::isProbablyPrime(LargeInteger const& n, int witnessCount) noexcept {
@@ -75,18 +34,16 @@ bool PrimesNumber::isProbablyPrime(LargeInteger const& n, int witnessCount) noex
         return false;
     if (n.getHighestBit() <= smallHighestBit)
         return passesTrialDivision(n.getBitRangeAsInt(0, smallBits));
+    // A negative number gets no further: the signed steps give it no divisor of 1.
     if (!n.findGreatestCommonDivisor(LargeInteger(smallPrimesProduct)).isOne())
         return false;
 
-    MillerRabin const test(n);
-    LargeInteger const sieve = witnessSieve(witnessCount);
-    int witness = 2;
-    for (int i = 0; i < witnessCount; ++i) {
-        witness = sieve.findNextClearBit(witness + 1);
-        if (!test.passes(witness))
-            return false;
-    }
-    return true;
+    std::size_t const count = limbCount(n.getHighestBit());
+    Workspace workspace(count + internal::witnessScratch(count));
+    limbs::Limb* const copy = workspace.take(count);
+    internal::copyLimbs(copy, count, n);
+    limbs::Limb const* const number = copy;
+    return internal::findPassing({&number, 1}, count, witnessCount, workspace.take(0)) == 0;
 }
 
 }  // namespace qel
