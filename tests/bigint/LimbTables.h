@@ -1,9 +1,8 @@
-// What the tests of the ground floor share: the variants of the kernels, tables of lengths and
-// operands, arrays between marked limbs, and twins of the products: natural numbers on 32-bit
-// halves, one step at a time.
+// What the tests of the ground floor share: tables of lengths and operands, arrays between marked
+// limbs, and twins of the products: natural numbers on 32-bit halves, one step at a time.
 #pragma once
 
-#include "bigint/limbs/Kernels.h"
+#include "KernelVariants.h"
 
 #include <gtest/gtest.h>
 
@@ -23,37 +22,6 @@ using Limbs = std::vector<Limb>;
 
 inline constexpr Limb allOnes = ~Limb{0};
 inline constexpr Limb topBit = Limb{1} << 63;
-
-// --- variants -----------------------------------------------------------------------------------
-
-struct Variant {
-    char const* name;
-    qel::limbs::Kernels const* kernels;
-};
-
-/// The variants that this processor runs; the first call prints them, and those left out.
-inline std::vector<Variant> const& variants() {
-    static std::vector<Variant> const runnable = [] {
-        std::vector<Variant> list{{"portable", &qel::limbs::portableKernels}};
-        if (qel::limbs::hasAdx())
-            list.push_back({"adx", &qel::limbs::adxKernels});
-        else
-            std::cout << "[ NOT TESTED ] this processor cannot run the adx variant\n";
-        for (Variant const& variant : list)
-            std::cout << "[ VARIANT  ] " << variant.name << '\n';
-        return list;
-    }();
-    return runnable;
-}
-
-/// Puts a variant to use until the end of the block.
-class Using {
-  public:
-    explicit Using(Variant const& variant) { qel::limbs::useKernels(variant.kernels); }
-    ~Using() { qel::limbs::useKernels(nullptr); }
-    Using(Using const&) = delete;
-    Using& operator=(Using const&) = delete;
-};
 
 // --- tables -------------------------------------------------------------------------------------
 

@@ -3,6 +3,7 @@
 #include "qel/Random.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace plain {
 
@@ -44,18 +45,15 @@ bool passesTrialDivision(int value) noexcept {
     return true;
 }
 
-/// The composites up to a multiple of 256, far enough for `witnessCount` odd primes.
-LargeInteger witnessSieve(int witnessCount) noexcept {
-    constexpr int growth = 256;
-    LargeInteger composites;
-    int limit = 0;
-    int primesAndOne = 0;
-    do {
-        limit += growth;
-        sievePrimes(composites, limit);
-        primesAndOne = limit - composites.countNumberOfSetBits();
-    } while (witnessCount + 1LL >= primesAndOne);
-    return composites;
+/// The odd primes in ascending order.
+int oddPrime(int index) noexcept {
+    static std::vector<int> primes;
+    for (int n = primes.empty() ? 3 : primes.back() + 2; static_cast<int>(primes.size()) <= index;
+         n += 2) {
+        if (std::none_of(primes.begin(), primes.end(), [n](int p) { return n % p == 0; }))
+            primes.push_back(n);
+    }
+    return primes[static_cast<std::size_t>(index)];
 }
 
 /// n - 1 = oddPart * 2^twos, the numbers that every witness is tested with.
@@ -143,11 +141,8 @@ bool isProbablyPrime(LargeInteger const& n, int witnessCount) noexcept {
         return false;
 
     MillerRabin const test(n);
-    LargeInteger const sieve = witnessSieve(witnessCount);
-    int witness = 2;
     for (int i = 0; i < witnessCount; ++i) {
-        witness = sieve.findNextClearBit(witness + 1);
-        if (!test.passes(witness))
+        if (!test.passes(oddPrime(i)))
             return false;
     }
     return true;
