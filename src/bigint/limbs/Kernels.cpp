@@ -1,5 +1,7 @@
-// Which variant of the kernels this processor runs.
+// Which variants of the kernels this processor runs.
 #include "Kernels.h"
+
+#include "LaneKernels.h"
 
 #include <atomic>
 
@@ -13,22 +15,58 @@ namespace {
 
 // Null until the first use. Threads that race here store the same pointer.
 constinit std::atomic<Kernels const*> chosen{nullptr};
+constinit std::atomic<LaneKernels const*> chosenLanes{nullptr};
 
-}  // namespace
-
-bool hasAdx() noexcept {
 #if defined(__x86_64__)
-    constexpr unsigned int bmi2 = 1U << 8;
-    constexpr unsigned int adx = 1U << 19;
+
+/// Whether leaf 7 of cpuid names all these features in ebx.
+bool hasFeatures(unsigned int features) noexcept {
     unsigned int eax = 0;
     unsigned int ebx = 0;
     unsigned int ecx = 0;
     unsigned int edx = 0;
-    return __get_cpuid_count(7, 0, &eax, &ebx, &ecx, &edx) != 0 && (ebx & bmi2) != 0
-           && (ebx & adx) != 0;
+    return __get_cpuid_count(7, 0, &eax, &ebx, &ecx, &edx) != 0 && (ebx & features) == features;
+}
+
+/// Whether the system keeps registers of 512 bits for each thread: xgetbv tells which states it
+/// saves, where it lets programs ask.
+bool savesWideRegisters() noexcept {
+    constexpr unsigned int osxsave = 1U << 27;
+    constexpr unsigned int wideStates = 0xE6;  // SSE, AVX, masks, upper halves, upper registers
+    unsigned int eax = 0;
+    unsigned int ebx = 0;
+    unsigned int ecx = 0;
+    unsigned int edx = 0;
+    if (__get_cpuid(1, &eax, &ebx, &ecx, &edx) == 0 || (ecx & osxsave) == 0)
+        return false;
+    asm("xgetbv" : "=a"(eax), "=d"(edx) : "c"(0));
+    return (eax & wideStates) == wideStates;
+}
+
 #else
+
+bool hasFeatures(unsigned int /*features*/) noexcept {
     return false;
+}
+
+bool savesWideRegisters() noexcept {
+    return false;
+}
+
 #endif
+
+}  // namespace
+
+bool hasAdx() noexcept {
+    constexpr unsigned int bmi2 = 1U << 8;
+    constexpr unsigned int adx = 1U << 19;
+    return hasFeatures(bmi2 | adx);
+}
+
+bool hasIfma() noexcept {
+    constexpr unsigned int avx512f = 1U << 16;
+    constexpr unsigned int avx512ifma = 1U << 21;
+    return hasFeatures(avx512f | avx512ifma) && savesWideRegisters();
 }
 
 Kernels const& kernels() noexcept {
@@ -42,6 +80,19 @@ Kernels const& kernels() noexcept {
 
 void useKernels(Kernels const* variant) noexcept {
     chosen.store(variant, std::memory_order_relaxed);
+}
+
+LaneKernels const& laneKernels() noexcept {
+    LaneKernels const* variant = chosenLanes.load(std::memory_order_relaxed);
+    if (variant == nullptr) {
+        variant = hasIfma() ? &ifmaLanes : &portableLanes;
+        chosenLanes.store(variant, std::memory_order_relaxed);
+    }
+    return *variant;
+}
+
+void useLaneKernels(LaneKernels const* variant) noexcept {
+    chosenLanes.store(variant, std::memory_order_relaxed);
 }
 
 Limb addMultiply(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept {
