@@ -9,21 +9,23 @@
 
 namespace qel::internal {
 
-/// Walks over the odd numbers above an even start, a window at a time.
-///
-/// A number is struck when the documented screening strikes it, or when the test with
-/// `witnessCount` witnesses certainly refuses it; both are the same to the search.
+/// True when the documented screening strikes n: when 3, or 2p + 1 for a prime p below 15000,
+/// divides it and is not n itself.
+/// @param n odd, `count` limbs
+[[nodiscard]] bool isStruckByDivisors(limbs::Limb const* n, std::size_t count) noexcept;
+
+/// Walks over the odd numbers above an even start, a window at a time, and strikes those that the
+/// test certainly refuses.
 class Screening {
   public:
     static constexpr int windowLength = 128;
     using Window = std::bitset<std::size_t{windowLength}>;
-    /// The documented divisors: twice 1 or a prime below 15000, plus one.
-    static constexpr std::size_t divisorCount = 1755;
 
-    /// @param start even, 2048 or more, `count` limbs; the highest may be zero and must have room
-    ///     for as far as the walk goes
-    /// @param scratch screeningScratch(count) limbs, which the walk keeps
-    Screening(limbs::Limb const* start, std::size_t count, int witnessCount,
+    /// @param start even, 2048 or more, `limbCount` limbs, with room for as far as the walk goes
+    /// @param witnessCount that of the test; with 0 or less only factors up to 23 strike
+    /// @param limit the primes below it are looked at as factors, as far as they are small primes
+    /// @param scratch screeningScratch(limbCount) limbs, which the walk keeps
+    Screening(limbs::Limb const* start, std::size_t limbCount, int witnessCount, limbs::Limb limit,
               limbs::Limb* scratch) noexcept;
 
     /// Bit i is set when base() + 2i + 1 is struck, for i < length.
@@ -33,8 +35,6 @@ class Screening {
     [[nodiscard]] limbs::Limb const* base() const noexcept { return number; }
 
   private:
-    void strikeDocumented(Window& struck, unsigned int length) const noexcept;
-    void strikeFactors(Window& struck, unsigned int length) noexcept;
     [[nodiscard]] bool isRefused(unsigned int offset, unsigned int factor) noexcept;
 
     limbs::Limb* number;
@@ -42,8 +42,7 @@ class Screening {
     limbs::Limb* quotient;
     int witnesses;
     std::size_t primeCount;
-    std::array<std::uint16_t, divisorCount> divisorResidues;
-    std::array<std::uint16_t, smallPrimes.size()> primeResidues;
+    std::array<std::uint16_t, smallPrimes.size()> residues;
 };
 
 std::size_t screeningScratch(std::size_t count) noexcept;

@@ -1,7 +1,11 @@
 #include "Witnesses.h"
 
 #include "../bigint/limbs/StrongTest.h"
+#include "../bigint/limbs/StrongTests.h"
 #include "SmallPrimes.h"
+
+#include <algorithm>
+#include <array>
 
 namespace qel::internal {
 
@@ -21,6 +25,8 @@ class OddPrimes {
         return last;
     }
 
+    [[nodiscard]] Limb current() const noexcept { return last; }
+
   private:
     /// For odd numbers from 3 to 2^32.
     static bool isPrime(Limb number) noexcept {
@@ -38,30 +44,77 @@ class OddPrimes {
     Limb last = 2;
 };
 
-bool passesAll(Limb const* n, std::size_t count, int witnessCount, Limb* scratch) noexcept {
+constexpr std::size_t fewestLimbs = 2;
+constexpr unsigned int allLanes = (1U << limbs::lanes) - 1;
+
+/// Whether eight tests are made at once: shorter numbers are tested faster one by one, and longer
+/// ones would overflow the sums.
+bool testsEight(std::size_t count) noexcept {
+    return limbs::laneKernels().pays && count >= fewestLimbs && count <= limbs::longestStrongTest;
+}
+
+bool passesOneByOne(Limb const* n, std::size_t count, OddPrimes witnesses, int witnessCount,
+                    Limb* scratch) noexcept {
     limbs::StrongTest test(n, limbs::significant(n, count), scratch);
-    OddPrimes witnesses;
-    for (int i = 0; i < witnessCount; ++i) {
+    for (; witnessCount > 0; --witnessCount) {
         if (!test.passes(witnesses.next()))
             return false;
     }
     return true;
 }
 
+/// Lanes left over repeat the last witness.
+bool passesByEight(Limb const* n, std::size_t count, OddPrimes witnesses, int witnessCount,
+                   Limb* scratch) noexcept {
+    std::array<Limb const*, limbs::lanes> moduli;
+    moduli.fill(n);
+    std::array<Limb, limbs::lanes> bases;
+    while (witnessCount > 0) {
+        for (Limb& base : bases)
+            base = --witnessCount >= 0 ? witnesses.next() : witnesses.current();
+        if (limbs::passStrongTests(moduli.data(), count, bases.data(), scratch) != allLanes)
+            return false;
+    }
+    return true;
+}
+
+/// Nearly all numbers fail with the first witness, so that is what all are tested with; then the
+/// first to pass is tested with the others.
+int findPassingByEight(std::span<Limb const* const> numbers, std::size_t count, int witnessCount,
+                       Limb* scratch) noexcept {
+    std::array<Limb const*, limbs::lanes> moduli;
+    moduli.fill(numbers[0]);
+    std::copy(numbers.begin(), numbers.end(), moduli.begin());
+    OddPrimes witnesses;
+    std::array<Limb, limbs::lanes> bases;
+    bases.fill(witnesses.next());
+    unsigned int const passed = limbs::passStrongTests(moduli.data(), count, bases.data(), scratch);
+    for (std::size_t k = 0; k < numbers.size(); ++k) {
+        if ((passed >> k & 1) != 0
+            && passesByEight(numbers[k], count, witnesses, witnessCount - 1, scratch))
+            return static_cast<int>(k);
+    }
+    return -1;
+}
+
 }  // namespace
 
-std::size_t numbersAtOnce(std::size_t) noexcept {
-    return 1;
+std::size_t numbersAtOnce(std::size_t count) noexcept {
+    return testsEight(count) ? limbs::lanes : 1;
 }
 
 std::size_t witnessScratch(std::size_t count) noexcept {
-    return limbs::strongTestScratch(count);
+    return testsEight(count) ? limbs::strongTestsScratch(count) : limbs::strongTestScratch(count);
 }
 
 int findPassing(std::span<Limb const* const> numbers, std::size_t count, int witnessCount,
                 Limb* scratch) noexcept {
+    bool const byEight = testsEight(count) && witnessCount > 0;
+    if (byEight && numbers.size() > 1)
+        return findPassingByEight(numbers, count, witnessCount, scratch);
     for (std::size_t k = 0; k < numbers.size(); ++k) {
-        if (passesAll(numbers[k], count, witnessCount, scratch))
+        if (byEight ? passesByEight(numbers[k], count, {}, witnessCount, scratch)
+                    : passesOneByOne(numbers[k], count, {}, witnessCount, scratch))
             return static_cast<int>(k);
     }
     return -1;

@@ -1,14 +1,14 @@
 // Strong tests with the witnesses 3, 5, 7, 11, ..., as many at once as the processor can.
 #pragma once
 
-#include "../bigint/limbs/Limbs.h"
+#include "../bigint/limbs/LaneKernels.h"
 
 #include <cstddef>
 #include <span>
 
 namespace qel::internal {
 
-inline constexpr std::size_t mostNumbersAtOnce = 8;
+inline constexpr std::size_t mostNumbersAtOnce = limbs::lanes;
 /// How many numbers of `count` limbs findPassing tests in hardly more time than one; 1 or 8.
 [[nodiscard]] std::size_t numbersAtOnce(std::size_t count) noexcept;
 

@@ -23,6 +23,8 @@ std::vector<Limb> number(unsigned seed, std::size_t count) {
     return n;
 }
 
+constexpr auto table = makeDivisorTable(smallPrimes);
+
 unsigned int plainResidue(std::vector<Limb> const& n, unsigned int divisor) {
     unsigned long long rest = 0;
     for (std::size_t i = 2 * n.size(); i > 0; --i) {
@@ -45,14 +47,16 @@ TEST(SmallPrimes, AreAllBelowTwoToTheSixteenthInAscendingOrder) {
     EXPECT_EQ(found, smallPrimes.size());
 }
 
+// As many divisors as fill groups, and groups that go side by side, or not.
 TEST(Residues, AreThoseOfEveryDivisorOfTheTable) {
     for (std::size_t const count : {1U, 2U, 3U, 16U, 40U}) {
         std::vector<Limb> const n = number(300, count);
-        std::vector<Limb> scratch(count);
-        std::vector<std::uint16_t> residues(smallPrimes.size());
-        takeResidues(residues, smallPrimes, n.data(), count, scratch.data());
-        for (std::size_t i = 0; i < residues.size(); ++i)
-            ASSERT_EQ(residues[i], plainResidue(n, smallPrimes[i])) << count << ' ' << i;
+        for (std::size_t const taken : {1U, 3U, 4U, 5U, 15U, 16U, 17U, 31U, 33U, 6542U}) {
+            std::vector<std::uint16_t> residues(taken);
+            takeResidues(residues, table.divisors, table.groups.data(), n.data(), count);
+            for (std::size_t i = 0; i < residues.size(); ++i)
+                ASSERT_EQ(residues[i], plainResidue(n, smallPrimes[i])) << count << ' ' << i;
+        }
     }
 }
 
@@ -61,9 +65,9 @@ TEST(Residues, FollowTheNumberOverDivisorsOnBothSidesOfTheStep) {
     for (unsigned int const step : {2U, 254U, 255U, 256U, 257U}) {
         std::vector<Limb> n = number(301, 3);
         n[0] &= 0xFFFF'FFFF'0000'0000;
-        std::vector<Limb> scratch(3);
-        std::vector<std::uint16_t> residues(divisors.size());
-        takeResidues(residues, divisors, n.data(), 3, scratch.data());
+        std::vector<std::uint16_t> residues;
+        for (std::uint16_t const divisor : divisors)
+            residues.push_back(static_cast<std::uint16_t>(plainResidue(n, divisor)));
         for (int i = 0; i < 1000; ++i) {
             n[0] += step;
             advanceResidues(residues, divisors, step);
