@@ -1,8 +1,10 @@
-// The seed tables that keys are created from, so that no luck of one search decides.
+// The seed tables that keys are created from, so that no luck of one search decides, and the widths
+// of the keys.
 #ifndef QEL_BENCH_CRYPTO_SEEDTABLES_H
 #define QEL_BENCH_CRYPTO_SEEDTABLES_H
 
 #include <array>
+#include <span>
 
 namespace qel::bench {
 
@@ -21,7 +23,14 @@ inline constexpr SeedTable seedTables[] = {
     {2026, 11, 21, 12},
 };
 
-inline constexpr int keyWidths[] = {512, 1024, 2048};
+/// In bits; multiples of 64, so that both primes fill whole words of 32 bits.
+inline constexpr int keyWidths[] = {256, 512, 768, 1024, 1536, 2048, 3072, 4096};
+inline constexpr int widestOfAllTables = 2048;
+
+/// Wider keys take seconds: the first tables must do.
+inline std::span<SeedTable const> seedTablesFor(int bits) {
+    return std::span(seedTables).first(bits <= widestOfAllTables ? std::size(seedTables) : 3);
+}
 
 }  // namespace qel::bench
 
