@@ -1,6 +1,8 @@
 // Re-creates an RSA key pair from integer seeds, applies one key to a message, undoes it with the
 // other, and keeps both keys in files for a moment. The same options print the same keys on every
-// machine.
+// machine. While wide keys are created, a line on the terminal counts the seconds.
+#include "ElapsedLine.h"
+
 #include "qel/CharFunctions.h"
 #include "qel/Date.h"
 #include "qel/File.h"
@@ -26,6 +28,8 @@ constexpr int exitBadOption = 2;
 /// Below this both primes come from a handful of starts, and may be equal.
 constexpr int smallestWidth = 32;
 constexpr int largestWidth = 16384;
+/// Wider keys take long enough to wonder.
+constexpr int widestWithoutLine = 4096;
 
 struct Options {
     int bits = 2048;
@@ -164,11 +168,18 @@ void printBanner() {
               << now.ConvertToString(true, true, true, false, true) << "\n\n";
 }
 
+void createKeyPair(qel::RSAKey& first, qel::RSAKey& second, Options const& options) {
+    std::optional<ElapsedLine> line;
+    if (options.bits > widestWithoutLine)
+        line.emplace("Creating keys of " + std::to_string(options.bits) + " bits:");
+    qel::RSAKey::createKeyPair(first, second, options.bits, options.seeds.data(),
+                               static_cast<int>(options.seeds.size()));
+}
+
 int demonstrate(Options const& options) {
     qel::RSAKey first;
     qel::RSAKey second;
-    qel::RSAKey::createKeyPair(first, second, options.bits, options.seeds.data(),
-                               static_cast<int>(options.seeds.size()));
+    createKeyPair(first, second, options);
     std::cout << "Key pair of " << options.bits << " bits from the seeds ";
     printSeeds(options.seeds);
     std::cout << "\n  first key   " << first.toString() << "\n  second key  " << second.toString()

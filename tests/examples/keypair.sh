@@ -66,6 +66,29 @@ case $complaint in
 *) fail "no folder: complained '$complaint'" ;;
 esac
 
+# Above 4096 bits the seconds are counted on the terminal, and only there. These seeds find their
+# primes soon.
+written=$("$program" --bits 4097 --seeds 12,112 2>&1 >/dev/null)
+[ -z "$written" ] || fail "no terminal: wrote $written"
+
+on_a_terminal() { # arguments of the program
+    script -qec "'$program' $* >/dev/null" /dev/null </dev/null
+}
+
+erase=$(printf '\r\033[K')
+case $(script --version 2>/dev/null) in
+*util-linux*)
+    written=$(on_a_terminal --bits 4097 --seeds 12,112)
+    case $written in
+    "${erase}Creating keys of 4097 bits: 0 s$erase"*) ;;
+    *) fail "terminal: wrote '$written'" ;;
+    esac
+    [ "${written%"$erase"}" != "$written" ] || fail "terminal: left '$written'"
+    written=$(on_a_terminal --bits 4096 --seeds 32,132)
+    [ -z "$written" ] || fail "terminal, 4096 bits: wrote '$written'"
+    ;;
+esac
+
 rmdir "$temporary" || fail "left behind in $temporary: $(ls -a "$temporary")"
 
 [ "$failures" = 0 ]
