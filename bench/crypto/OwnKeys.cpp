@@ -2,28 +2,33 @@
 #include "OwnKeys.h"
 
 #include "bigint/limbs/Kernels.h"
+#include "bigint/limbs/LaneKernels.h"
 #include "qel/RSAKey.h"
 
 namespace qel::bench {
 
 namespace {
 
+/// Null is the library's own choice.
 struct Path {
     char const* name;
-    void (*force)();
+    limbs::Kernels const* kernels;
+    limbs::LaneKernels const* laneKernels;
     bool available;
 };
 
-Path const ownChoice = {"qel", [] { limbs::useKernels(nullptr); }, true};
+Path const ownChoice = {"qel", nullptr, nullptr, true};
 
 Path const paths[] = {
     ownChoice,
-    {"qel portable", [] { limbs::useKernels(&limbs::portableKernels); }, true},
-    {"qel adx", [] { limbs::useKernels(&limbs::adxKernels); }, limbs::hasAdx()},
+    {"qel portable", &limbs::portableKernels, &limbs::portableLanes, true},
+    {"qel adx", &limbs::adxKernels, &limbs::portableLanes, limbs::hasAdx()},
+    {"qel batch of eight", nullptr, &limbs::ifmaLanes, limbs::hasIfma()},
 };
 
 KeyTexts createKeys(Path const& path, int bits, SeedTable const& seeds) {
-    path.force();
+    limbs::useKernels(path.kernels);
+    limbs::useLaneKernels(path.laneKernels);
     RSAKey first, second;
     RSAKey::createKeyPair(first, second, bits, seeds.data(), static_cast<int>(seeds.size()));
     return {first.toString(), second.toString()};
