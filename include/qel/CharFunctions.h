@@ -12,9 +12,11 @@ namespace qel {
 ///
 /// All text is 8-bit. Letters, digits and case are ASCII only; bytes 128 to 255 are neither
 /// letters nor digits and have no case. A null pointer is checked only where a function says so;
-/// elsewhere it is the caller's fault and the call need not return. Every function is reentrant.
+/// elsewhere it is the caller's fault and the call need not return. Every function is reentrant,
+/// and takes time linear in the lengths of its texts unless it searches for one in another.
 class CharFunctions {
   public:
+    /// There are no instances: every function is static.
     CharFunctions() = delete;
 
     /// @name One character
@@ -66,10 +68,10 @@ class CharFunctions {
     /// The subject `s` must not be null.
     /// @{
 
-    /// Searches for any one character of `set`, not for `set` as a word.
+    /// Searches for any one character of `set`, not for `set` as a word. `set` must not be null.
     /// @return the position of the first byte of `s` that occurs in `set`; -1 when there is none.
     [[nodiscard]] static int IndexOfFirstOccurence(char const* s, char const* set) noexcept;
-    /// Searches for any one character of `set`, not for `set` as a word.
+    /// Searches for any one character of `set`, not for `set` as a word. `set` must not be null.
     /// @return the position of the last byte of `s` that occurs in `set`; -1 when there is none.
     [[nodiscard]] static int IndexOfLastOccurence(char const* s, char const* set) noexcept;
     /// True when `part` occurs in `s` as a substring; false for a null or empty `part`.
@@ -96,7 +98,7 @@ class CharFunctions {
 
     /// Compares byte by byte. Neither may be null.
     [[nodiscard]] static int Compare(char const* a, char const* b) noexcept;
-    /// Compares at most `n` bytes; -1 when either is null, also when both are.
+    /// Compares at most the first `n` bytes; -1 when either is null, also when both are.
     [[nodiscard]] static int Compare(char const* a, char const* b, unsigned int n) noexcept;
     /// Compares with ASCII case folded; -1 when either is null, also when both are.
     [[nodiscard]] static int CompareIgnoreCase(char const* a, char const* b) noexcept;
@@ -112,8 +114,8 @@ class CharFunctions {
 
     /// Copies `source` with its terminator.
     static void Copy(char* destination, char const* source) noexcept;
-    /// Copies at most `n` bytes: without a terminator when `source` has `n` bytes or more, filled
-    /// up with zero bytes to `n` when it is shorter.
+    /// Writes no terminator when `source` has `n` bytes or more: exactly `n` bytes are written, and
+    /// a shorter source is filled up with zero bytes.
     static void Copy(char* destination, char const* source, unsigned int n) noexcept;
     /// Copies `source` with its terminator behind the text in `destination`.
     static void Append(char* destination, char const* source) noexcept;
@@ -125,7 +127,7 @@ class CharFunctions {
 
     /// `a` followed by `b`.
     [[nodiscard]] static std::string Concatenate(char const* a, char const* b) noexcept;
-    /// At most `count` bytes of `s` from `start` on. A `start` beyond the length ends the process;
+    /// At most `count` bytes of `s` from `start` on; a `start` beyond the length ends the process,
     /// one equal to it gives "".
     [[nodiscard]] static std::string SubStr(char const* s, unsigned int start,
                                             unsigned int count) noexcept;
@@ -214,11 +216,15 @@ class CharFunctions {
     [[nodiscard]] static double AsciiToDouble(char const* s) noexcept;
     /// `AsciiToDouble` rounded to single precision; infinity beyond its range.
     [[nodiscard]] static float AsciiToFloat(char const* s) noexcept;
-    /// The C library's `atof`: white space in front is skipped, what follows ignored.
+    /// The C library's `atof`, which reads other texts than `AsciiToDouble` does: white space in
+    /// front is skipped, what follows the number ignored, and "1-2" is 1.
     [[nodiscard]] static double GetDoubleValue(char const* s) noexcept;
     /// `GetDoubleValue` rounded to single precision; infinity beyond its range.
     [[nodiscard]] static float GetFloatValue(char const* s) noexcept;
-    /// The C library's `atoi`: white space in front is skipped, what follows ignored.
+    /// The C library's `atoi`, which does not read all that `IsInt` accepts: of "1e3" and "0x10" it
+    /// reads 1 and 0. White space in front is skipped, what follows the digits ignored.
+    ///
+    /// The text is to hold a value from -2147483648 to 2147483647.
     [[nodiscard]] static int GetIntValue(char const* s) noexcept;
 
     /// @}
@@ -227,7 +233,7 @@ class CharFunctions {
     /// terminator, into `out`, where the caller guarantees room for it.
     /// @{
 
-    /// Decimal digits behind a `-` if negative.
+    /// Decimal digits, behind a `-` if negative.
     [[nodiscard]] static std::string Int2String(int v) noexcept;
     /// As `Int2String`, at most 12 bytes.
     static void Int2Char(int v, char* out) noexcept;
@@ -235,16 +241,16 @@ class CharFunctions {
     [[nodiscard]] static std::string UnsignedInt2String(unsigned int v) noexcept;
     /// As `UnsignedInt2String`, at most 12 bytes.
     static void UnsignedInt2Char(unsigned int v, char* out) noexcept;
-    /// Decimal digits behind a `-` if negative.
+    /// Decimal digits, behind a `-` if negative.
     [[nodiscard]] static std::string Long2String(long v) noexcept;
     /// As `Long2String`, at most 21 bytes.
     static void Long2Char(long v, char* out) noexcept;
     /// The 32 bits of `v` as hexadecimal digits without leading zeros: -1 gives "ffffffff".
     [[nodiscard]] static std::string Int2Hexa(int v, bool upperCase) noexcept;
-    /// `v` as `printf` writes it with `format`, which holds one conversion of a double. The text
-    /// may have any length; a format that the C library refuses gives "".
+    /// `v` as `printf` writes it with `format`, which holds one conversion of a double and must not
+    /// be null. The text may have any length; a format that the C library refuses gives "".
     [[nodiscard]] static std::string Float2String(double v, char const* format) noexcept;
-    /// As `Float2String`.
+    /// As `Float2String`; as many bytes as its text has, and a terminator.
     static void Float2Char(double v, char* out, char const* format) noexcept;
     /// As for a double of the same value.
     [[nodiscard]] static std::string Float2String(float v, char const* format) noexcept;

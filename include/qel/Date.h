@@ -43,12 +43,13 @@ class Date {
     ///
     /// `Date(0)` is ambiguous, with a null text: write `Date()` or `Date(0LL)`.
     constexpr Date(long long milliseconds) noexcept : msSinceEpoch(milliseconds) {}
-    /// The instant named by the fields, none of which is checked.
+    /// The instant named by the fields, none of which is checked: local time in the years 1971 to
+    /// 2037, UTC in every other.
     ///
-    /// For the years 1971 to 2037 they are local time, and the C library carries what is out of
-    /// range; an instant before the epoch becomes the epoch itself, without `millisecond`. For
-    /// every other year, 1970 included, they are UTC: days, hours and the smaller fields are
-    /// carried, months 0, 13 and 14 too, while a month of 15 or more gives a meaningless date.
+    /// For the years 1971 to 2037 the C library carries what is out of range; an instant before the
+    /// epoch becomes the epoch itself, without `millisecond`. For every other year, 1970 included,
+    /// days, hours and the smaller fields are carried, months 0, 13 and 14 too, while a month of 15
+    /// or more gives a meaningless date.
     /// @param year the full year, as 2012
     /// @param month 1 to 12
     /// @param day 1 to 31
@@ -72,14 +73,14 @@ class Date {
     [[nodiscard]] constexpr long long GetMillisecondsSinceEpoch() const noexcept {
         return msSinceEpoch;
     }
-    /// The seconds within the minute, 0 to 59, from the count alone.
+    /// The seconds within the minute, 0 to 59; a huge number for counts below -999.
     ///
-    /// For counts below -999 no such thing: the remainder of the (negative) seconds minus 60, -119
-    /// to -60, as its unsigned pattern; 4294967235 for the count -1000.
+    /// They come from the count alone. Below -999 it is the remainder of the (negative) seconds
+    /// minus 60, -119 to -60, as its unsigned pattern; 4294967235 for the count -1000.
     [[nodiscard]] unsigned int GetSeconds() const noexcept;
-    /// The milliseconds within the second, 0 to 999.
+    /// The milliseconds within the second, 0 to 999; a huge number for negative counts.
     ///
-    /// For negative counts no such thing: their remainder minus 1000, -1999 to -1000, as its
+    /// For those it is their remainder minus 1000, -1999 to -1000, as its
     /// unsigned pattern; 4294966295 for the count -1.
     [[nodiscard]] unsigned int GetMilliSeconds() const noexcept;
 
@@ -88,9 +89,9 @@ class Date {
     /// All of it wraps around at the ends of the signed 64-bit range.
     /// @{
 
-    /// Moves forward.
+    /// Moves forward by an unsigned amount.
     Date& operator+=(unsigned long long milliseconds) noexcept;
-    /// Moves back.
+    /// Moves back by an unsigned amount.
     Date& operator-=(unsigned long long milliseconds) noexcept;
     /// Moves by `n` seconds; back when negative.
     void AddSeconds(long long n) noexcept;
@@ -108,20 +109,20 @@ class Date {
 
     /// @}
     /// @name Local calendar fields
-    /// Each call breaks the count down anew. Before the start of Julian day 0, 24 November 4714 BC,
-    /// fields come out below zero, as their unsigned patterns. Counts beyond the year 1465102 also
-    /// give meaningless fields.
+    /// Each call breaks the count down anew, which costs one call of the C library. Before the
+    /// start of Julian day 0, 24 November 4714 BC, fields come out below zero, as their unsigned
+    /// patterns. Counts beyond the year 1465102 also give meaningless fields.
     /// @{
 
-    /// 0 to 59.
+    /// The minute, 0 to 59.
     [[nodiscard]] unsigned int GetMinutes() const noexcept;
-    /// 0 to 23.
+    /// The hour, 0 to 23.
     [[nodiscard]] unsigned int GetHours() const noexcept;
-    /// 0, Sunday, to 6, Saturday.
+    /// The day of the week, 0 for Sunday to 6 for Saturday.
     [[nodiscard]] unsigned int GetDayOfWeek() const noexcept;
-    /// 1 to 31.
+    /// The day of the month, 1 to 31.
     [[nodiscard]] unsigned int GetDay() const noexcept;
-    /// 1 to 12.
+    /// The month, 1 to 12.
     [[nodiscard]] unsigned int GetMonth() const noexcept;
     /// The full year; 1 BC is 0, and the years before it are unsigned patterns.
     [[nodiscard]] unsigned int GetYear() const noexcept;
@@ -131,10 +132,13 @@ class Date {
     /// Days, months, hours, minutes and seconds have a "0" in front up to 9; the year has none.
     /// @{
 
-    /// "Sun", "Mon", "Tue", "Wed", "Thu", "Fri" or "Sat".
+    /// The day of the week as "Sun", "Mon", "Tue", "Wed", "Thu", "Fri" or "Sat".
     [[nodiscard]] std::string GetDayOfWeekName() const noexcept;
-    /// The date, the time or both: "Wed - 21/11/2012 - 09h05m07s", or "Wed_21-11-2012_09h05m07s"
-    /// when compact. The date keeps the separator behind it when no time follows.
+    /// The date, the time or both; the date keeps the separator behind it when no time follows:
+    /// "21/11/2012 - ".
+    ///
+    /// All of it is "Wed - 21/11/2012 - 09h05m07s", or "Wed_21-11-2012_09h05m07s" when compact;
+    /// neither date nor time is "".
     /// @param withDate day, month and year
     /// @param withTime hours and minutes
     /// @param withSeconds the seconds too, as GetSeconds() gives them; only with the time
@@ -157,8 +161,10 @@ class Date {
     [[nodiscard]] static int GetMonth(char const* text) noexcept;
     /// The year of a day-month-year text; -1 when it cannot be read. No range is checked.
     [[nodiscard]] static int GetYear(char const* text) noexcept;
+    /// Does not look at the lengths of months: "31/02/2012" is valid.
+    ///
     /// True when the text can be read, with a day of 1 to 31, a month of 1 to 12 and a year of 100
-    /// or more. Lengths of months are not looked at: "31/02/2012" is valid.
+    /// or more.
     [[nodiscard]] static bool IsValidDate(char const* text) noexcept;
 
     /// @}
@@ -178,9 +184,10 @@ class Date {
     /// @name The clock
     /// @{
 
-    /// Milliseconds since the system started; back to 0 every 2^32 ms, about 49.7 days.
+    /// Goes back to 0 every 2^32 ms, about 49.7 days: milliseconds since the system started.
     [[nodiscard]] static unsigned int GetMillisecondsSinceStartup() noexcept;
-    /// Milliseconds since the epoch, kept steady by the counter of GetMillisecondsSinceStartup.
+    /// Does not follow a wall clock that is set while the program runs: milliseconds since the
+    /// epoch, kept steady by the counter of GetMillisecondsSinceStartup.
     ///
     /// The wall clock is read by the first call, unless the counter stands at 0xFFFFFFFF, and again
     /// when the counter has gone back by more than 10 ms since the previous call, or by any step
@@ -222,21 +229,27 @@ class Date {
 /// By the count alone.
 /// @{
 
+/// True when both are the same instant.
 [[nodiscard]] constexpr bool operator==(Date const& a, Date const& b) noexcept {
     return a.GetMillisecondsSinceEpoch() == b.GetMillisecondsSinceEpoch();
 }
+/// True when they are two instants.
 [[nodiscard]] constexpr bool operator!=(Date const& a, Date const& b) noexcept {
     return !(a == b);
 }
+/// True when `a` is earlier than `b`.
 [[nodiscard]] constexpr bool operator<(Date const& a, Date const& b) noexcept {
     return a.GetMillisecondsSinceEpoch() < b.GetMillisecondsSinceEpoch();
 }
+/// True when `a` is later than `b`.
 [[nodiscard]] constexpr bool operator>(Date const& a, Date const& b) noexcept {
     return b < a;
 }
+/// True when `a` is not later than `b`.
 [[nodiscard]] constexpr bool operator<=(Date const& a, Date const& b) noexcept {
     return !(b < a);
 }
+/// True when `a` is not earlier than `b`.
 [[nodiscard]] constexpr bool operator>=(Date const& a, Date const& b) noexcept {
     return !(a < b);
 }

@@ -11,9 +11,10 @@ namespace qel {
 /// File names, existence, size, deletion, and a file's text.
 ///
 /// Paths are C strings of bytes and must not be null. The empty path names nothing. A failure
-/// shows in the result only.
+/// shows in the result only. The functions share no state; several writers of one file race.
 class File {
   public:
+    /// There are no instances: every function is static.
     File() = delete;
 
     /// @name File names
@@ -25,13 +26,12 @@ class File {
     [[nodiscard]] static std::string ConvertFileNameToUnixStyle(char const* path) noexcept;
     /// A copy with a backslash for every slash.
     [[nodiscard]] static std::string ConvertFileNameToWindowsStyle(char const* path) noexcept;
-    /// The native style is the Unix style.
+    /// A copy in the native style, which is the Unix style.
     [[nodiscard]] static std::string ConvertFileNameToNativeStyle(char const* path) noexcept;
-    /// True when there is no backslash.
+    /// True when there is no backslash in the path.
     [[nodiscard]] static bool IsFileNameNativeStyle(char const* path) noexcept;
-    /// The text before the last separator, even a trailing one; "" without any.
-    ///
-    /// The parent of "a/b/" is "a/b", and the parent of "/x" is "", not "/".
+    /// The text before the last separator, even a trailing one: the parent of "a/b/" is "a/b", and
+    /// the parent of "/x" is "", not "/". "" without any separator.
     [[nodiscard]] static std::string GetParentFolder(char const* path) noexcept;
     /// The text after the last separator, "" if the path ends in one; the whole path without any.
     [[nodiscard]] static std::string GetFileName(char const* path) noexcept;
@@ -51,9 +51,9 @@ class File {
     /// extension already, in any case. A dot at the end of `path` is not doubled.
     [[nodiscard]] static std::string AppendExtension(char const* path,
                                                      char const* extension) noexcept;
-    /// True when `GetExtension(path)` is `extension`, whose one leading dot does not count.
-    ///
-    /// ".tar.gz" is no extension of any path. A path without a dot has the extensions "" and ".".
+    /// True when `GetExtension(path)` is `extension`, whose one leading dot does not count:
+    /// ".tar.gz" is no extension of any path, and a path without a dot has the extensions "" and
+    /// ".".
     [[nodiscard]] static bool HasThisExtension(char const* path, char const* extension,
                                                bool ignoreCase) noexcept;
     /// True when `HasThisExtension` is for some element; false for none.
@@ -81,7 +81,8 @@ class File {
     /// Tests the bit 0x4000 of the file mode alone, so that sockets and block devices are folders
     /// too.
     [[nodiscard]] static bool IsFolder(char const* path) noexcept;
-    /// The size in bytes, as the system reports it for folders too; 0 where there is nothing.
+    /// The size in bytes; 0 where there is nothing, as for an empty file. Folders have the size
+    /// that the system reports for them.
     [[nodiscard]] static long long GetSize(char const* path) noexcept;
     /// True for a file whose path, not its name, begins with a dot: ".hidden" and "./notes" are
     /// invisible, "/home/u/.hidden" is not. False for a folder.
@@ -93,10 +94,8 @@ class File {
     /// A link to a file is deleted itself, not its target; one to a folder or to nothing is left.
     /// False only when the system refuses to delete a file.
     static bool Delete(char const* path) noexcept;
-    /// True when what exists can be written to, or else its parent, by `GetParentFolder`, can.
-    ///
-    /// A new file must be named with a folder: for "f" and "/f" the parent is "", and the answer
-    /// false.
+    /// False for a new file that is named without a folder, "f" or "/f": true when what exists can
+    /// be written to, or else its parent, by `GetParentFolder`, can.
     [[nodiscard]] static bool HasWriteAccess(char const* path) noexcept;
     /// Reads the first word only: white space in front is skipped, and the next ends it.
     ///
@@ -104,11 +103,12 @@ class File {
     /// does not open, with `text` empty. True with an empty `text` when there is no word. White
     /// space is that of the "C" locale. `path` must not point into `text`, which is cleared first.
     static bool ReadStringFromFile(std::string& text, char const* path) noexcept;
-    /// Writes the bytes of `text` behind the file's, or else into a new file in its place: an
-    /// existing file, or link to one, is deleted first.
+    /// Refuses a new file named without a folder, as `HasWriteAccess` does: "f" must be "./f".
     ///
-    /// False without `HasWriteAccess`, when the old file cannot be deleted, and when the file does
-    /// not open. Once it is open the result is true, even if the disk fills up.
+    /// Appends the bytes of `text`, or else writes them into a new file in the old one's place: an
+    /// existing file, or link to one, is deleted first. False without `HasWriteAccess`, when the
+    /// old file cannot be deleted, and when the file does not open. Once it is open the result is
+    /// true, even if the disk fills up.
     static bool WriteStringToFile(std::string const& text, char const* path, bool append) noexcept;
 
     /// @}

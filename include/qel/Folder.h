@@ -14,12 +14,13 @@ namespace qel {
 /// none changes it while another depends on it.
 class Folder {
   public:
+    /// There are no instances: every function is static.
     Folder() = delete;
 
     /// @name Folders
     /// @{
 
-    /// The answer of `File::IsFolder`, sockets and block devices included.
+    /// The answer of `File::IsFolder`: sockets and block devices included.
     [[nodiscard]] static bool IsFolder(char const* path) noexcept;
     /// Makes every missing folder on the way, and fails for a path with a trailing slash though it
     /// makes that folder too. For an existing folder such a path is fine.
@@ -29,11 +30,12 @@ class Folder {
     /// False for "", for an existing file, and at the first that cannot be made or looked at;
     /// those made before it stay.
     static bool MakeDirectory(char const* path) noexcept;
-    /// False for "" and when the system refuses.
+    /// Changes the working directory of the whole process. False for "" and when the system
+    /// refuses.
     static bool SetCurrentWorkingDirectory(char const* path) noexcept;
     /// The working directory; "" when it has been deleted or takes 1024 bytes or more.
     [[nodiscard]] static std::string GetCurrentWorkingDirectory() noexcept;
-    /// The environment variable "HOME" as it stands, empty if it is; "./" when it is not set.
+    /// The environment variable "HOME" as it stands, even empty; "./" when it is not set.
     [[nodiscard]] static std::string GetUserHomeDirectory() noexcept;
 
     /// @}
@@ -55,7 +57,8 @@ class Folder {
     /// "Disk:/Users/me" gives "/Volumes/Disk/Users/me". Without a ":" the text comes twice: "Disk"
     /// gives "/Volumes/DiskDisk". A result of 4096 bytes or more gives "".
     [[nodiscard]] static std::string TranslateAbsolutePath(char const* path) noexcept;
-    /// The canonical path; `path` itself where there is none, or one of 1024 bytes or more.
+    /// The canonical path; `path` itself, and no failure, where nothing exists or where the
+    /// canonical path has 1024 bytes or more.
     ///
     /// For a `path` that begins with `~` the home folder, and what follows the first `~` of that
     /// text: "~user" is the home folder followed by "user", and need not exist. A real path

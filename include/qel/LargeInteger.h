@@ -23,6 +23,12 @@ namespace qel {
 /// An operand may be the object itself: `x += x`, `x /= x` and the like count their operands as
 /// they were on entry. One value may be used by one thread at a time; distinct values are
 /// independent.
+///
+/// Cost: sums, comparisons, shifts and bit ranges are linear in the width of the values in use.
+/// Products are quadratic up to a few thousand bits and nearly linear in the end, and quotients,
+/// remainders and decimal texts follow them at a small factor. A modular power takes one product
+/// for each bit of the exponent, a greatest common divisor or an inverse is quadratic. One bit is
+/// read or cleared in the same time at any width.
 class LargeInteger {
   public:
     /// @name Construction and storage
@@ -41,7 +47,7 @@ class LargeInteger {
     /// What a copy would be, without copying where the source's buffer is as tight as the copy's.
     /// The source becomes zero.
     LargeInteger(LargeInteger&& source) noexcept;
-    /// Releases the buffer.
+    /// Gives the memory back.
     ~LargeInteger() noexcept;
     /// A deep copy, in a new buffer just large enough for the value. Self-assignment does nothing.
     LargeInteger& operator=(LargeInteger const& source) noexcept;
@@ -60,7 +66,7 @@ class LargeInteger {
     /// @name Sign and small values
     /// @{
 
-    /// Stores the sign flag as given, even on zero.
+    /// Stores the sign flag as given, even on zero, which then is a negative zero.
     void setNegative(bool flag) noexcept;
     /// True for zero, a negative zero included.
     [[nodiscard]] bool isZero() const noexcept;
@@ -68,11 +74,11 @@ class LargeInteger {
     [[nodiscard]] bool isOne() const noexcept;
     /// True below zero; false for a negative zero.
     [[nodiscard]] bool isNegative() const noexcept;
-    /// Changes the sign; any zero loses its flag.
+    /// Changes the sign of the object itself; any zero loses its flag.
     /// @return the new sign: true when the value is now negative.
     bool negate() noexcept;
-    /// The low 31 bits of the magnitude, with the sign applied. Higher bits are dropped silently:
-    /// -2^31 gives 0.
+    /// Drops all but the low 31 bits of the magnitude silently, and applies the sign: 2^31 and
+    /// -2^31 give 0.
     [[nodiscard]] int toInteger() const noexcept;
 
     /// @}
@@ -89,10 +95,11 @@ class LargeInteger {
     void setBit(int i, bool value) noexcept;
     /// Clears bit `i`; ignored outside the value. The sign flag stays, also when no bit is left.
     void clearBit(int i) noexcept;
-    /// Sets or clears the bits `start` to `start + count - 1`; nothing for a `count` below 1.
+    /// Sets or clears the bits `start` to `start + count - 1`; does nothing for a `count` below 1.
     void setRange(int start, int count, bool value) noexcept;
     /// The bits `start` to `start + count - 1`, at most 32 of them, as an unsigned value in an
-    /// int. Bits above the value read as 0; a negative `start` or a `count` below 1 gives 0.
+    /// int: 32 bits may come out negative. Bits above the value read as 0; a negative `start` or a
+    /// `count` below 1 gives 0.
     [[nodiscard]] int getBitRangeAsInt(int start, int count) const noexcept;
     /// Writes the low `count` bits of `value`, at most 32, to the positions from `start` up: bit k
     /// of `value` goes to position `start + k`. Nothing for a `count` below 1.
@@ -105,7 +112,6 @@ class LargeInteger {
     [[nodiscard]] int findNextSetBit(int start) const noexcept;
     /// The lowest clear bit at or above `start`. A negative `start` counts as 0; -1 when every
     /// position up to the largest int is set.
-    ///
     [[nodiscard]] int findNextClearBit(int start) const noexcept;
     /// The number of set bits. (All 2^31 of them set are more than an int counts: the process
     /// ends.)
@@ -119,11 +125,17 @@ class LargeInteger {
     [[nodiscard]] int compareAbsolute(LargeInteger const& other) const noexcept;
     /// Compares the values: 1, 0 or -1.
     [[nodiscard]] int compare(LargeInteger const& other) const noexcept;
+    /// True for equal values, whatever flag a zero carries.
     [[nodiscard]] bool operator==(LargeInteger const& other) const noexcept;
+    /// True for two values that differ.
     [[nodiscard]] bool operator!=(LargeInteger const& other) const noexcept;
+    /// True when this value is below `other`.
     [[nodiscard]] bool operator<(LargeInteger const& other) const noexcept;
+    /// True when this value is not above `other`.
     [[nodiscard]] bool operator<=(LargeInteger const& other) const noexcept;
+    /// True when this value is above `other`.
     [[nodiscard]] bool operator>(LargeInteger const& other) const noexcept;
+    /// True when this value is not below `other`.
     [[nodiscard]] bool operator>=(LargeInteger const& other) const noexcept;
 
     /// @}
@@ -132,11 +144,17 @@ class LargeInteger {
     /// (-6) & 3 is -2, 6 & (-3) is 2.
     /// @{
 
+    /// Keeps the bits that `b` has too.
     LargeInteger& operator&=(LargeInteger const& b) noexcept;
+    /// Takes the bits of `b` too.
     LargeInteger& operator|=(LargeInteger const& b) noexcept;
+    /// Flips the bits that `b` has.
     LargeInteger& operator^=(LargeInteger const& b) noexcept;
+    /// The bits that both have, with this value's sign.
     [[nodiscard]] LargeInteger operator&(LargeInteger const& b) const noexcept;
+    /// The bits that either has, with this value's sign.
     [[nodiscard]] LargeInteger operator|(LargeInteger const& b) const noexcept;
+    /// The bits that only one of them has, with this value's sign.
     [[nodiscard]] LargeInteger operator^(LargeInteger const& b) const noexcept;
 
     /// @}
@@ -150,14 +168,22 @@ class LargeInteger {
     /// Signed multiplication, but `x *= x` keeps the sign of x: the square of a negative x comes
     /// out negative. `x * x` is the square.
     LargeInteger& operator*=(LargeInteger const& b) noexcept;
+    /// The sum, by the rule of `+=`: with a negative zero on the left it is -b for a positive b.
     [[nodiscard]] LargeInteger operator+(LargeInteger const& b) const noexcept;
+    /// The difference, by the rule of `-=`: with a negative zero on the left it is b for a negative
+    /// b.
     [[nodiscard]] LargeInteger operator-(LargeInteger const& b) const noexcept;
+    /// The product, also of a value with itself; a product of zero may be a negative zero.
     [[nodiscard]] LargeInteger operator*(LargeInteger const& b) const noexcept;
     /// The value with the other sign; zero for any zero.
     [[nodiscard]] LargeInteger operator-() const noexcept;
+    /// Adds 1, as `+= 1` does.
     LargeInteger& operator++() noexcept;
+    /// Subtracts 1, as `-= 1` does.
     LargeInteger& operator--() noexcept;
+    /// Adds 1 and returns the old value, at the cost of a copy.
     LargeInteger operator++(int) noexcept;
+    /// Subtracts 1 and returns the old value, at the cost of a copy.
     LargeInteger operator--(int) noexcept;
 
     /// @}
@@ -175,31 +201,39 @@ class LargeInteger {
     LargeInteger& operator<<=(int n) noexcept;
     /// Shifts right; a negative `n` shifts left.
     LargeInteger& operator>>=(int n) noexcept;
+    /// The value shifted left; right for a negative `n`.
     [[nodiscard]] LargeInteger operator<<(int n) const noexcept;
+    /// The value shifted right, rounded toward zero; left for a negative `n`.
     [[nodiscard]] LargeInteger operator>>(int n) const noexcept;
-    /// Moves the bits at `pos` and above up by one and writes `value` into the gap. Nothing for a
-    /// negative `pos`.
+    /// Moves the bits at `pos` and above up by one and writes `value` into the gap. Does nothing
+    /// for a negative `pos`.
     void insertBit(int pos, bool value) noexcept;
 
     /// @}
     /// @name Division
     /// Truncating: the quotient rounds toward zero, the remainder takes the dividend's sign. A
-    /// divisor of zero is no error: quotient and remainder are zero.
+    /// divisor of zero is no error: quotient and remainder are zero. A zero quotient or remainder
+    /// of a negative operand may be a negative zero.
     /// @{
 
-    /// Becomes the quotient and stores the remainder, whose old value does not matter.
+    /// Becomes the quotient and stores the remainder, whose old value does not matter; both zero
+    /// for a divisor of zero.
     /// @pre `remainder` is not this object. It may be `divisor`, whose old value divides.
     void divideBy(LargeInteger const& divisor, LargeInteger& remainder) noexcept;
+    /// Becomes the quotient, rounded toward zero; zero for a divisor of zero.
     LargeInteger& operator/=(LargeInteger const& divisor) noexcept;
+    /// Becomes the remainder, with the dividend's sign; zero for a divisor of zero.
     LargeInteger& operator%=(LargeInteger const& divisor) noexcept;
+    /// The quotient, rounded toward zero; zero for a divisor of zero.
     [[nodiscard]] LargeInteger operator/(LargeInteger const& divisor) const noexcept;
+    /// The remainder, with the dividend's sign; zero for a divisor of zero.
     [[nodiscard]] LargeInteger operator%(LargeInteger const& divisor) const noexcept;
 
     /// @}
     /// @name Number theory
     /// @{
 
-    /// Greatest common divisor by repeated subtraction; both values are used up.
+    /// Uses both values up: their greatest common divisor by the steps of repeated subtraction.
     ///
     /// @pre Two objects, both values not negative, and `b` not zero unless `a` is. Otherwise the
     /// call may not return: a zero `b` is subtracted for ever, opposite signs grow for ever. (One
@@ -227,14 +261,16 @@ class LargeInteger {
     /// @name Text
     /// @{
 
-    /// The digits in radix 2, 8, 10 or 16, lower case, without prefix or leading zeros, behind a
-    /// "-" when negative. Zero is the empty text; so is any value in any other radix.
-    [[nodiscard]] std::string toString(int radix) const noexcept;
-    /// Becomes the number that `text` writes in radix 2, 8, 10 or 16.
+    /// The empty text for zero, not "0"; otherwise the digits in radix 2, 8, 10 or 16, lower case,
+    /// without prefix or leading zeros, behind a "-" when negative.
     ///
-    /// Lenient: characters that are no digits of the radix are skipped, reading stops at a zero
-    /// byte, a text without digits (the empty one) is zero. A "-" counts only as the first
-    /// character. In any other radix no digit is read.
+    /// The empty text, too, for any other radix. The operator of LargeIntegerStream.h writes "0".
+    [[nodiscard]] std::string toString(int radix) const noexcept;
+    /// Becomes the number that `text` writes in radix 2, 8, 10 or 16; what is no digit of the radix
+    /// is skipped, and nothing is an error: "12-3" is 123, and a text without digits zero.
+    ///
+    /// A "-" counts only as the first character. Reading stops at a zero byte. In any other radix
+    /// no digit is read.
     void parseString(std::string const& text, int radix) noexcept;
 
     /// @}

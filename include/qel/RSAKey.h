@@ -19,8 +19,10 @@ class RSAKey {
   public:
     /// A key with zero in both fields, which applyToValue refuses.
     RSAKey() noexcept;
-    /// Reads the text form. Without a comma both fields are zero; digits are read as leniently as
-    /// LargeInteger::parseString does in radix 16, and further commas are skipped.
+    /// Reads the text form and reports nothing: without a comma both fields are zero.
+    ///
+    /// Digits are read as leniently as LargeInteger::parseString does in radix 16, and further
+    /// commas are skipped.
     /// @param text must not be null.
     RSAKey(char const* text) noexcept;
 
@@ -34,26 +36,32 @@ class RSAKey {
 
     /// Raises each digit of `value` in base modulus to the exponent, and reverses their order.
     ///
-    /// The other key of the pair reverses the digits again and restores the value. A value below
-    /// the modulus comes back exactly; one that is a multiple of the modulus loses its lowest
-    /// digit. Costs one modular power a digit.
+    /// `value` becomes the result. The other key of the pair reverses the digits again and restores
+    /// the value. A value below the modulus comes back exactly; one that is a multiple of the
+    /// modulus loses its lowest digit. Costs one modular power a digit.
     /// @return false, with `value` cleared to zero, when it is zero or negative or when a field of
     ///     this key is zero.
     /// @pre The modulus is 2 or more; with a modulus of 1 the call does not return.
     [[nodiscard]] bool applyToValue(LargeInteger& value) const noexcept;
 
-    /// The first of 3, 5, 9, 17, ..., 65537 (2^k + 1, composites included) that shares no factor
-    /// with either argument; when there is none, the first such number from 4 up.
+    /// Not a divisor of anything: the first of 3, 5, 9, 17, ..., 65537 (2^k + 1, composites
+    /// included) that shares no factor with either argument; when there is none, the first such
+    /// number from 4 up.
     /// @pre Both arguments are positive; otherwise the call may not return.
     [[nodiscard]] static LargeInteger findBestCommonDivisor(LargeInteger const& first,
                                                             LargeInteger const& second) noexcept;
 
-    /// Creates the pair that the seeds determine. The same width and seeds give the same pair.
+    /// Creates the pair that the seeds determine: the same width and seeds give the same pair, on
+    /// every machine.
     ///
     /// The first half of the seeds draws one prime, the rest the other, each tested with 30
-    /// witnesses. The first key takes a small exponent, the second one its inverse. Nothing checks
-    /// that the primes differ: seeds of which both halves draw the same start give a useless
-    /// modulus. When a prime search fails, both keys come out as default keys.
+    /// witnesses: one seed alone leaves the first prime without any, the same for everyone. The
+    /// first key takes a small exponent, the second one its inverse. Nothing checks that the primes
+    /// differ: seeds of which both halves draw the same start give a useless modulus. When a prime
+    /// search fails, both keys come out as default keys. The time is that of two prime searches:
+    /// many modular powers of half the width, in the order of the fourth power of `bitCount`.
+    /// @param firstKey becomes (small exponent, modulus); what it held before does not matter.
+    /// @param secondKey becomes (inverse of that exponent, modulus).
     /// @param bitCount the width of the modulus, give or take a bit; small widths come out wider.
     /// @param seeds `seedCount` integers; may be null when `seedCount` is 0.
     static void createKeyPair(RSAKey& firstKey, RSAKey& secondKey, int bitCount, int const* seeds,

@@ -14,12 +14,14 @@ class LargeInteger;
 /// nothing from the operating system. One generator may be used by one thread at a time.
 class Random {
   public:
-    /// Starts from `seed`, stored as it is. Its bits above bit 47 influence nothing.
+    /// Starts from `seed` as it is, unmixed; its bits above bit 47 influence nothing.
     Random(long long seed) noexcept;
 
-    /// One step: bits 47 to 16 of the new state, bit 47 being the sign.
+    /// The next 32 bits as any `int`, negative ones included: bits 47 to 16 of the new state.
+    ///
+    /// Neighbouring seeds begin with neighbouring numbers, and the seed 0 with 0.
     int nextInt() noexcept;
-    /// One step: bit 47 of the new state.
+    /// The next bit: bit 47 of the new state.
     bool nextBool() noexcept;
     /// Writes `bitCount` random bits to the positions from `firstBit` up, the last few of them in
     /// descending order; other bits stay.
