@@ -38,6 +38,7 @@ class PrimesNumber {
     ///     width behind: the result can have more bits, always so below some 12 bits.
     /// @param witnessCount as for isProbablyPrime; each costs a modular power.
     /// @param seeds `seedCount` integers; may be null when `seedCount` is 0.
+    /// @param seedCount 0 or more
     /// @return the prime; zero when the start has outgrown `bitCount` bits before a block of
     ///     candidates is searched.
     [[nodiscard]] static LargeInteger createProbablePrime(int bitCount, int witnessCount,

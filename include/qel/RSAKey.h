@@ -64,6 +64,7 @@ class RSAKey {
     /// @param secondKey becomes (inverse of that exponent, modulus).
     /// @param bitCount the width of the modulus, give or take a bit; small widths come out wider.
     /// @param seeds `seedCount` integers; may be null when `seedCount` is 0.
+    /// @param seedCount 0 or more
     static void createKeyPair(RSAKey& firstKey, RSAKey& secondKey, int bitCount, int const* seeds,
                               int seedCount) noexcept;
 
