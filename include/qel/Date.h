@@ -21,14 +21,13 @@ namespace qel {
 /// count each have a range in which the C library does the work, with daylight saving, and the
 /// ranges differ:
 ///
-/// | direction       | the C library, local time                    | outside it                 |
-/// |-----------------|----------------------------------------------|----------------------------|
-/// | fields to count | years 1971 to 2037                           | the fields are read as UTC |
-/// | count to fields | 1970-01-02 UTC up to, not with, 2038-01-01   | the offset from UTC of     |
-/// |                 |                                              | 1971-01-01, all year round |
+/// | direction       | the C library, local time                  | outside it               |
+/// |-----------------|--------------------------------------------|--------------------------|
+/// | fields to count | years 1971 to 2037                         | read as UTC              |
+/// | count to fields | 1970-01-02 UTC up to, not with, 2038-01-01 | the offset of 1971-01-01 |
 ///
-/// So a date built in the year 2040 reads back moved by that offset. Outside the ranges the
-/// calendar is the Gregorian one, extended backward.
+/// That offset from UTC holds all year round, so a date built in the year 2040 reads back moved by
+/// it. Outside the ranges the calendar is the Gregorian one, extended backward.
 ///
 /// One date may be used by one thread at a time. The functions that read the current time share
 /// the state of one clock and are to be called from one thread at a time.

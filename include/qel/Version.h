@@ -3,6 +3,7 @@
 #ifndef QEL_VERSION_H
 #define QEL_VERSION_H
 
+/// The whole library; only `lastMSCounterValue` stands outside.
 namespace qel {
 
 /// The first number of the version.
