@@ -40,7 +40,7 @@ class LargeInteger {
     LargeInteger(int v) noexcept;
     /// The value `v`.
     LargeInteger(unsigned int v) noexcept;
-    /// The value `v`.
+    /// The value `v`. A `long` is as near to each of the three: cast it to `long long`.
     LargeInteger(long long v) noexcept;
     /// A deep copy, in a buffer just large enough for the source's cached bound.
     LargeInteger(LargeInteger const& source) noexcept;

@@ -14,9 +14,10 @@ class PrimesNumber {
     /// There are no instances: both functions are static.
     PrimesNumber() = delete;
 
-    /// Meant for odd candidates from 2048 on: every even number is refused, 2 included; 1 passes;
-    /// and a value from 1024 to 2047 gets the verdict of that value minus 1024, since values below
-    /// 2048 are judged by trial division of their low ten bits.
+    /// True for a probable prime, where `n` is odd and 2048 or more: every even
+    /// number is refused, 2 included; 1 passes; and a value from 1024 to 2047 gets the verdict
+    /// of that value minus 1024, since values below 2048 are judged by trial division of their low
+    /// ten bits.
     ///
     /// The test is Miller-Rabin with the first `witnessCount` odd primes 3, 5, 7, 11, ... as
     /// witnesses; each costs one modular power. A composite passes only if it fools all of them.
