@@ -2,6 +2,8 @@
 // Plain ASCII ranges, so that an application's locale changes nothing.
 #include "qel/CharFunctions.h"
 
+#include "HexDigit.h"
+
 #include <algorithm>
 
 namespace qel {
@@ -47,10 +49,7 @@ std::string CharFunctions::ToLowerCase(char const* s) noexcept {
 }
 
 int CharFunctions::GetHexDigitValue(char c) noexcept {
-    if (IsDigit(c))
-        return c - '0';
-    char const lower = ToLowerCase(c);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+    return hexDigitValue(c);
 }
 
 int CharFunctions::HexaToInt(char high, char low) noexcept {
