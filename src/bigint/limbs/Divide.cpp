@@ -1,50 +1,13 @@
 // Quotients: by one limb, and schoolbook long division (Knuth 4.3.1, Algorithm D) with quotient
-// digits from a reciprocal (Moeller and Granlund, "Improved division by invariant integers", 2011).
+// digits from a reciprocal (Reciprocal.h, and the algorithms for two limbs of the same article).
 #include "Kernels.h"
+#include "Reciprocal.h"
 
 #include <bit>
 
 namespace qel::limbs {
 
 namespace {
-
-constexpr Limb high(DoubleLimb x) noexcept {
-    return static_cast<Limb>(x >> bitsPerLimb);
-}
-
-constexpr Limb low(DoubleLimb x) noexcept {
-    return static_cast<Limb>(x);
-}
-
-constexpr DoubleLimb join(Limb top, Limb bottom) noexcept {
-    return (DoubleLimb{top} << bitsPerLimb) | bottom;
-}
-
-/// (2^128 - 1) / d - 2^64 for a d with its top bit set.
-Limb reciprocal(Limb d) noexcept {
-    return low(~DoubleLimb{0} / d);
-}
-
-/// top:bottom / d for top < d, with d's reciprocal (Algorithm 4).
-struct ShortQuotient {
-    Limb quotient;
-    Limb remainder;
-};
-
-ShortQuotient divideTwoByOne(Limb top, Limb bottom, Limb d, Limb inverse) noexcept {
-    DoubleLimb const estimate = DoubleLimb{inverse} * top + join(top, bottom);
-    Limb quotient = high(estimate) + 1;
-    Limb remainder = bottom - quotient * d;
-    if (remainder > low(estimate)) {
-        --quotient;
-        remainder += d;
-    }
-    if (remainder >= d) {
-        ++quotient;
-        remainder -= d;
-    }
-    return {quotient, remainder};
-}
 
 /// The reciprocal of two limbs, (2^192 - 1) / d - 2^64 (Algorithm 6).
 Limb reciprocalOfTwo(Limb d1, Limb d0) noexcept {
