@@ -1,8 +1,6 @@
 // Long random sequences of operations on the library's integers and on the plain model at once:
 // after every step both have the same value, sign flag, bound and capacity.
-#include "LargeIntegerPeer.h"
-
-#include "model/PlainInteger.h"
+#include "PlainDifference.h"
 
 #include <gtest/gtest.h>
 
@@ -20,22 +18,6 @@ struct Twin {
     LargeInteger fast;
     plain::LargeInteger plain;
 };
-
-/// Empty when all four fields agree, and all words up to the capacity.
-std::string difference(LargeInteger const& fast, plain::LargeInteger const& plain) {
-    Books const model{plain.size, plain.highestBit, plain.negative};
-    std::ostringstream text;
-    if (!(books(fast) == model)) {
-        text << "books " << books(fast) << ", not " << model;
-        return text.str();
-    }
-    for (int i = 0; i < plain.size; ++i) {
-        if (LargeIntegerPeer::word(fast, i) != plain.data[i])
-            text << " word " << i << ": " << LargeIntegerPeer::word(fast, i) << ", not "
-                 << plain.data[i];
-    }
-    return text.str();
-}
 
 /// A word and a number, as in "set at 7".
 std::string label(char const* word, int number) {
