@@ -36,12 +36,19 @@ Limbs parsed(std::string const& digits) {
     return out.values();
 }
 
-/// Lengths in groups: up to beyond the splits, and around powers of two.
+/// Lengths in groups: around sweeps, splits, halves and quarters that are just longer than a part
+/// may be, and powers of two.
 std::vector<std::size_t> lengths() {
     std::vector<std::size_t> all;
-    for (std::size_t i = 1; i <= 2 * std::max(decimalInSplit, decimalOutSplit) + 3; ++i)
+    for (std::size_t i = 1; i <= 18; ++i)
         all.push_back(i);
-    for (std::size_t power : {128U, 256U, 512U})
+    for (std::size_t split : {decimalOutSplit, decimalInSplit}) {
+        for (std::size_t times : {1U, 2U, 4U}) {
+            for (std::size_t i = times * split - 1; i <= times * split + 3; ++i)
+                all.push_back(i);
+        }
+    }
+    for (std::size_t power : {64U, 128U, 256U})
         all.insert(all.end(), {power - 1, power, power + 1, power + power / 2});
     return all;
 }
@@ -57,9 +64,28 @@ TEST(LimbDecimal, WritesWhatSingleDigitsWouldBe) {
     }
 }
 
+TEST(LimbDecimal, WritesZerosInFrontOfShortNumbers) {
+    Operands operands(3);
+    for (std::size_t groups : lengths()) {
+        if (groups == 1)
+            continue;
+        std::size_t const longest = groups - 1 - groups / 64;  // surely below 10^(19 groups)
+        for (std::size_t count : {std::size_t{1}, longest / 3 + 1, longest}) {
+            Limbs value = operands.any(count);
+            ASSERT_EQ(decimal(value, groups), plainDecimal(value, groups)) << text(value);
+            value.resize(2 * groups);
+            ASSERT_EQ(decimal(value, groups), plainDecimal(value, groups)) << text(value);
+        }
+    }
+}
+
 TEST(LimbDecimal, ReadsBackWhatItWrites) {
     Operands operands(2);
-    for (std::size_t count : lengths()) {
+    std::vector<std::size_t> counts = lengths();
+    for (std::size_t i = 1; i <= 3 * decimalInSplit; ++i)
+        counts.push_back(i);
+    counts.insert(counts.end(), {1000, 1999, 2600, 4100});  // powers long enough for transforms
+    for (std::size_t count : counts) {
         Limbs value = operands.any(count);
         std::string const digits = decimal(value, decimalGroups(count));
         value.resize(decimalGroups(count));

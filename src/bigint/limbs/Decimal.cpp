@@ -1,4 +1,6 @@
 #include "Decimal.h"
+#include "EightDigits.h"
+#include "Reciprocal.h"
 #include "Thresholds.h"
 
 #include <algorithm>
@@ -9,95 +11,136 @@ namespace qel::limbs {
 
 namespace {
 
-constexpr Limb groupBase = 10'000'000'000'000'000'000U;
+constexpr Limb groupBase = 10'000'000'000'000'000'000U;  // its highest bit is set
+constexpr Limb groupInverse = reciprocal(groupBase);
 
-/// 10^(19 * 2^k) = limbs * 2^(64 zeros - shift): shifted until the highest bit is set, and without
-/// the limbs that are zero at the low end, three in ten.
+/// The groups that one sweep over the limbs takes: their steps do not wait for each other.
+constexpr std::size_t groupsPerSweep = 4;
+
+/// 10^(19 groups) = limbs * 2^exponent, where the highest bit of the limbs is set and the lowest
+/// limb is not zero: a power of 5, three in ten shorter.
 struct Power {
+    std::size_t groups;
     Limb const* limbs;
     std::size_t count;
-    std::size_t zeros;
-    int shift;
+    std::size_t exponent;
 };
 
-/// The index of the power that splits `groups` >= 2 groups: the largest 2^k below.
-std::size_t splitIndex(std::size_t groups) noexcept {
-    return static_cast<std::size_t>(std::bit_width(groups - 1)) - 1;
-}
-
+/// The powers at which a text is split: of `first`, 2 * `first`, 4 * `first`... groups. The last
+/// one is at half of the text or a little above, and no part has more than `first` groups.
 class Powers {
   public:
-    /// Computes those that splitting `groups` groups takes.
-    Powers(std::size_t groups, Limb* memory) noexcept;
+    /// For a text of `groups` groups, and parts of at most `split`.
+    Powers(std::size_t groups, std::size_t split, Limb* memory) noexcept;
 
-    /// Less than 2^(K + 1) limbs for the powers up to 10^(19 * 2^K), since 10^19 fits a limb; and
-    /// one for each, where a shift comes to be an own limb.
-    static std::size_t room(std::size_t groups) noexcept { return 2 * groups + 64; }
+    /// Twice `first` limbs for the first power, and 2^k * first for each k-th one after it, as
+    /// 10^19 fits a limb: together 2^levels * first < groups + 2^levels, and 2^levels < groups.
+    static std::size_t room(std::size_t groups) noexcept { return 2 * groups; }
 
+    /// How many there are: how often a half is split again.
+    std::size_t levels() const noexcept { return count; }
     Power const& operator[](std::size_t k) const noexcept { return table[k]; }
 
   private:
-    void squareInto(Power& out, Power const& root, Limb* memory) noexcept;
-
     std::array<Power, 40> table;
+    std::size_t count = 0;
 };
 
-Powers::Powers(std::size_t groups, Limb* memory) noexcept {
-    *memory = groupBase;  // its highest bit is set
-    table[0] = {memory, 1, 0, 0};
-    Limb* next = memory + 1;
-    std::size_t const last = groups < 2 ? 0 : splitIndex(groups);
-    for (std::size_t k = 0; k < last; ++k) {
-        squareInto(table[k + 1], table[k], next);
-        next += 2 * table[k].count;
+/// The power that is memory[0, count) * 2^exponent. A power of 5 has less than 64 zero bits at the
+/// low end once it is shifted, and its square twice as many and one: so one limb there may be zero.
+Power normalized(std::size_t groups, Limb* memory, std::size_t count,
+                 std::size_t exponent) noexcept {
+    count = significant(memory, count);
+    if (int const shift = std::countl_zero(memory[count - 1]); shift != 0) {
+        shiftLeft(memory, memory, count, shift);
+        exponent -= static_cast<std::size_t>(shift);
     }
+    std::size_t const zeros = memory[0] == 0 ? 1 : 0;
+    return {groups, memory + zeros, count - zeros, exponent + zeros * bitsPerLimb};
 }
 
-// The square of a number with its highest bit set has it there or one below.
-void Powers::squareInto(Power& out, Power const& root, Limb* memory) noexcept {
-    std::size_t const count = 2 * root.count;
-    square(memory, root.limbs, root.count, memory + count);
-    int shift = 2 * root.shift;
-    if (memory[count - 1] >> (bitsPerLimb - 1) == 0) {
-        shiftLeft(memory, memory, count, 1);
-        ++shift;
+/// By squaring, between `memory` and groups limbs above. 5^(19 j) has at most j limbs for every j
+/// on the way.
+Power firstPower(std::size_t groups, Limb* memory) noexcept {
+    constexpr Limb fiveTo19 = groupBase >> digitsPerGroup;
+    Limb* power = memory;
+    Limb* spare = memory + groups;
+    power[0] = fiveTo19;
+    std::size_t count = 1;
+    for (std::size_t bit = std::bit_floor(groups) / 2; bit != 0; bit /= 2) {
+        square(spare, power, count, memory + 2 * groups);
+        std::swap(power, spare);
+        count = significant(power, 2 * count);
+        if ((groups & bit) != 0) {
+            power[count] = multiplyLimb(power, power, count, fiveTo19);
+            count = significant(power, count + 1);
+        }
     }
-    std::size_t const wholeLimbs = static_cast<std::size_t>(shift / bitsPerLimb);
-    std::size_t const stripped = static_cast<std::size_t>(
-        std::find_if(memory, memory + count, [](Limb limb) { return limb != 0; }) - memory);
-    out = {memory + stripped, count - stripped, 2 * root.zeros + stripped - wholeLimbs,
-           shift % bitsPerLimb};
+    return normalized(groups, power, count, groups * digitsPerGroup);
+}
+
+Powers::Powers(std::size_t groups, std::size_t split, Limb* memory) noexcept {
+    std::size_t first = groups;
+    for (; first > split; first -= first / 2)
+        ++count;
+    table[0] = firstPower(first, memory);
+    memory += 2 * first;
+    for (std::size_t k = 1; k < count; ++k) {
+        Power const& root = table[k - 1];
+        std::size_t const squareCount = 2 * root.count;
+        square(memory, root.limbs, root.count, memory + squareCount);
+        table[k] = normalized(2 * root.groups, memory, squareCount, 2 * root.exponent);
+        memory += squareCount;
+    }
 }
 
 // --- out ----------------------------------------------------------------------------------------
 
+/// Three digits and two blocks. The block with the three ends where the next one is then written.
 void writeGroup(char* out, Limb group) noexcept {
-    for (std::size_t i = digitsPerGroup; i-- > 0; group /= 10)
-        out[i] = static_cast<char>('0' + group % 10);
+    Limb const upper = group / blockBase;
+    Limb const top = upper / blockBase;
+    storeBlock(out, toCharacters(splitDecimal(top)) >> 40);
+    storeBlock(out + 3, toCharacters(splitDecimal(upper - blockBase * top)));
+    storeBlock(out + 11, toCharacters(splitDecimal(group - blockBase * upper)));
 }
 
+/// Divides by 10^19 for several groups in one sweep: a quotient's limb is at once the next
+/// division's.
 void writeByGroups(char* out, std::size_t groups, Limb* a, std::size_t count) noexcept {
-    for (std::size_t i = groups; i-- > 0;) {
+    while (groups > 0) {
         count = significant(a, count);
-        writeGroup(out + i * digitsPerGroup, count == 0 ? 0 : divideLimb(a, a, count, groupBase));
+        std::array<Limb, groupsPerSweep> rests = {};
+        for (std::size_t i = count; i-- > 0;) {
+            Limb limb = a[i];
+            for (Limb& rest : rests) {
+                ShortQuotient const digit = divideTwoByOne(rest, limb, groupBase, groupInverse);
+                limb = digit.quotient;
+                rest = digit.remainder;
+            }
+            a[i] = limb;
+        }
+        for (std::size_t i = 0; i < groupsPerSweep && groups > 0; ++i)
+            writeGroup(out + --groups * digitsPerGroup, rests[i]);
     }
 }
 
+/// Splits at the power below `level` and, where the text is not longer than that, further down.
 void write(char* out, std::size_t groups, Limb* a, std::size_t aCount, Powers const& powers,
-           Limb* scratch) noexcept {
-    if (groups <= decimalOutSplit) {
+           std::size_t level, Limb* scratch) noexcept {
+    if (level == 0) {
         writeByGroups(out, groups, a, aCount);
         return;
     }
-    std::size_t const k = splitIndex(groups);
-    std::size_t const lowGroups = std::size_t{1} << k;
-    char* const lowOut = out + (groups - lowGroups) * digitsPerGroup;
-    auto const& [divisor, divisorCount, zeros, shift] = powers[k];
+    auto const& [lowGroups, divisor, divisorCount, exponent] = powers[--level];
+    std::size_t const zeros = (exponent + bitsPerLimb - 1) / bitsPerLimb;
+    int const shift = static_cast<int>(zeros * bitsPerLimb - exponent);
     std::size_t const count = significant(a, aCount);
     std::size_t const powerCount = zeros + divisorCount;
-    if (count < powerCount) {
+    char* const lowOut = out + (groups - std::min(groups, lowGroups)) * digitsPerGroup;
+    if (count < powerCount || lowOut == out) {
         std::fill(out, lowOut, '0');
-        write(lowOut, lowGroups, a, count, powers, scratch);
+        write(lowOut, std::min(groups, lowGroups), a, count, powers, level, scratch);
         return;
     }
     // The low limbs, where the power has zeros, are part of the remainder as they are.
@@ -108,63 +151,83 @@ void write(char* out, std::size_t groups, Limb* a, std::size_t aCount, Powers co
     divide(quotient, a + zeros, count + 1 - zeros, divisor, divisorCount, rest);
     if (shift != 0)
         shiftRight(a, a, powerCount, shift);
-    write(out, groups - lowGroups, quotient, quotientCount, powers, rest);
-    write(lowOut, lowGroups, a, powerCount, powers, rest);
+    write(out, groups - lowGroups, quotient, quotientCount, powers, level, rest);
+    write(lowOut, lowGroups, a, powerCount, powers, level, rest);
 }
 
 // --- in -----------------------------------------------------------------------------------------
 
+/// Up to 19 digits.
 Limb readGroup(char const* digits, std::size_t length) noexcept {
     Limb group = 0;
-    for (std::size_t i = 0; i < length; ++i)
-        group = 10 * group + static_cast<Limb>(digits[i] - '0');
+    for (; length % digitsPerBlock != 0; --length)
+        group = 10 * group + static_cast<Limb>(*digits++ - '0');
+    for (; length != 0; length -= digitsPerBlock, digits += digitsPerBlock)
+        group = blockBase * group + joinDecimal(loadBlock(digits) - inEveryByte('0'));
     return group;
 }
 
-constexpr std::size_t groupsOf(std::size_t length) noexcept {
-    return (length + digitsPerGroup - 1) / digitsPerGroup;
-}
-
-/// Only the first, highest group may be short.
+/// Multiplies by 10^19 and adds a group, for several groups in one sweep: a limb of one product is
+/// at once the next factor's. The first, highest group may be short, the first sweep takes those
+/// that do not fill one.
 void readByGroups(Limb* out, char const* digits, std::size_t length) noexcept {
-    std::size_t const groups = groupsOf(length);
-    std::size_t const first = length - (groups - 1) * digitsPerGroup;
-    out[0] = readGroup(digits, first);
-    for (std::size_t i = 1; i < groups; ++i) {
-        out[i] = multiplyLimb(out, out, i, groupBase);
-        Limb const group = readGroup(digits + first + (i - 1) * digitsPerGroup, digitsPerGroup);
-        addLimb(out, out, i + 1, group);
+    for (std::size_t done = 0; length != 0;) {
+        std::size_t const taken = (groupsOf(length) - 1) % groupsPerSweep + 1;
+        std::array<Limb, groupsPerSweep> carries = {};
+        for (std::size_t i = groupsPerSweep - taken; i < groupsPerSweep; ++i) {
+            std::size_t const groupLength = (length - 1) % digitsPerGroup + 1;
+            carries[i] = readGroup(digits, groupLength);
+            digits += groupLength;
+            length -= groupLength;
+        }
+        std::fill(out + done, out + done + taken, Limb{0});
+        done += taken;
+        for (std::size_t i = 0; i < done; ++i) {
+            Limb limb = out[i];
+            for (Limb& carry : carries) {
+                DoubleLimb const product = DoubleLimb{limb} * groupBase + carry;
+                limb = low(product);
+                carry = high(product);
+            }
+            out[i] = limb;
+        }
     }
 }
 
 void read(Limb* out, char const* digits, std::size_t length, Powers const& powers,
-          Limb* scratch) noexcept {
-    std::size_t const groups = groupsOf(length);
-    if (groups <= decimalInSplit) {
+          std::size_t level, Limb* scratch) noexcept {
+    if (level == 0) {
         readByGroups(out, digits, length);
         return;
     }
-    std::size_t const k = splitIndex(groups);
-    std::size_t const lowGroups = std::size_t{1} << k;
+    std::size_t const groups = groupsOf(length);
+    auto const& [lowGroups, factor, factorCount, exponent] = powers[--level];
+    if (groups <= lowGroups) {
+        read(out, digits, length, powers, level, scratch);
+        return;
+    }
     std::size_t const highGroups = groups - lowGroups;
     std::size_t const highLength = length - lowGroups * digitsPerGroup;
-    Limb* const high = scratch;
+    Limb* const upper = scratch;
     Limb* const product = scratch + highGroups;
-    read(high, digits, highLength, powers, product);
-    read(out, digits + highLength, lowGroups * digitsPerGroup, powers, product);
-    // high * power: the shift comes out again. The sum is below 10^(19 groups) and so fits.
-    auto const& [factor, factorCount, zeros, shift] = powers[k];
-    std::size_t const productCount = highGroups + factorCount;
-    Limb* const rest = product + productCount;
+    read(upper, digits, highLength, powers, level, product);
+    read(out, digits + highLength, lowGroups * digitsPerGroup, powers, level, product);
+    std::size_t productCount = highGroups + factorCount;
+    Limb* const rest = product + productCount + 1;
     if (highGroups > factorCount)
-        multiply(product, high, highGroups, factor, factorCount, rest);
+        multiply(product, upper, highGroups, factor, factorCount, rest);
     else
-        multiply(product, factor, factorCount, high, highGroups, rest);
-    if (shift != 0)
-        shiftRight(product, product, productCount, shift);
+        multiply(product, factor, factorCount, upper, highGroups, rest);
+    if (int const shift = static_cast<int>(exponent % bitsPerLimb); shift != 0) {
+        product[productCount] = shiftLeft(product, product, productCount, shift);
+        ++productCount;
+    }
+    // The sum is below 10^(19 groups) and so fits. So do the limbs of the product, even if the
+    // highest is zero: the power's limbs, moved up by the exponent, need at most lowGroups.
     std::fill(out + lowGroups, out + groups, Limb{0});
-    Limb const carry = add(out + zeros, out + zeros, product, productCount);
-    std::size_t const end = zeros + productCount;
+    std::size_t const begin = exponent / bitsPerLimb;
+    std::size_t const end = begin + productCount;
+    Limb const carry = add(out + begin, out + begin, product, productCount);
     addLimb(out + end, out + end, groups - end, carry);
 }
 
@@ -181,15 +244,15 @@ void toDecimal(char* out, std::size_t groups, Limb* a, std::size_t count, Limb* 
         writeByGroups(out, groups, a, count);
         return;
     }
-    Powers const powers(groups, scratch);
-    write(out, groups, a, count, powers, scratch + Powers::room(groups));
+    Powers const powers(groups, decimalOutSplit, scratch);
+    write(out, groups, a, count, powers, powers.levels(), scratch + Powers::room(groups));
 }
 
-// The high parts of one way down are shorter than 2^K + 2^(K - 1) + ... < 2 groups, the product has
-// at most `groups` limbs.
+// The upper parts of one way down are shorter than 2^K + 2^(K - 1) + ... < 2 groups, the product
+// has at most `groups` limbs.
 std::size_t fromDecimalScratch(std::size_t groups) noexcept {
     return Powers::room(groups)
-           + std::max(squareScratch(groups), 3 * groups + multiplyScratch(groups, groups + 1));
+           + std::max(squareScratch(groups), 3 * groups + 64 + multiplyScratch(groups, groups + 1));
 }
 
 void fromDecimal(Limb* out, char const* digits, std::size_t length, Limb* scratch) noexcept {
@@ -198,8 +261,8 @@ void fromDecimal(Limb* out, char const* digits, std::size_t length, Limb* scratc
         readByGroups(out, digits, length);
         return;
     }
-    Powers const powers(groups, scratch);
-    read(out, digits, length, powers, scratch + Powers::room(groups));
+    Powers const powers(groups, decimalInSplit, scratch);
+    read(out, digits, length, powers, powers.levels(), scratch + Powers::room(groups));
 }
 
 }  // namespace qel::limbs

@@ -1,6 +1,6 @@
 // Decimal text of natural numbers, both ways, by halves: the number is split at a power
-// 10^(19 * 2^k), or joined there (Knuth 4.4; the method is due to Schoenhage). 19 digits, a group,
-// are what one limb holds.
+// 10^(19 * c * 2^k), or joined there (Knuth 4.4; the method is due to Schoenhage). 19 digits, a
+// group, are what one limb holds.
 #pragma once
 
 #include "Limbs.h"
@@ -19,8 +19,13 @@ inline constexpr std::size_t digitsPerGroup = 19;
 void toDecimal(char* out, std::size_t groups, Limb* a, std::size_t count, Limb* scratch) noexcept;
 std::size_t toDecimalScratch(std::size_t groups) noexcept;
 
-/// out[0, groups) = the number that `length` digits write, highest first, for
-/// groups = (length + 18) / 19 >= 1. The digits are '0' to '9'.
+/// The groups that `length` digits take.
+[[nodiscard]] constexpr std::size_t groupsOf(std::size_t length) noexcept {
+    return (length + digitsPerGroup - 1) / digitsPerGroup;
+}
+
+/// out[0, groupsOf(length)) = the number that `length` >= 0 digits write, highest first. The digits
+/// are '0' to '9'.
 void fromDecimal(Limb* out, char const* digits, std::size_t length, Limb* scratch) noexcept;
 std::size_t fromDecimalScratch(std::size_t groups) noexcept;
 

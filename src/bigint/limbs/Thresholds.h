@@ -15,8 +15,8 @@ inline constexpr std::size_t transformSquare = 640;
 /// Quotients of fewer limbs are taken digit by digit. At least 2.
 inline constexpr std::size_t divideSplit = 48;
 
-/// Decimal text of more groups of 19 digits than this is split. At least 2.
-inline constexpr std::size_t decimalOutSplit = 24;
-inline constexpr std::size_t decimalInSplit = 48;
+/// Decimal text of more groups of 19 digits than this is split. At least 6.
+inline constexpr std::size_t decimalOutSplit = 32;
+inline constexpr std::size_t decimalInSplit = 80;
 
 }  // namespace qel::limbs
