@@ -293,8 +293,10 @@ class LargeInteger {
     void shiftRight(long long count) noexcept;
     void shiftLeftFrom(int from, long long count) noexcept;
     void shiftRightFrom(int from, long long count) noexcept;
-    void parseBits(char const* text, int bits) noexcept;
+    template <int bits>
+    void parseBits(char const* text) noexcept;
     void parseDecimal(char const* text) noexcept;
+    void become(std::uint64_t const* limbs, int top, int capacity) noexcept;
 
     /// The magnitude, least significant word first: `size` + 1 words, the last one a guard.
     std::uint32_t* data;

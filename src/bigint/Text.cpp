@@ -1,137 +1,270 @@
 // Text in radix 2, 8, 10 and 16. Zero has no digits: it is the empty text, both ways.
 #include "qel/LargeInteger.h"
 
+#include "../text/HexDigit.h"
 #include "Product.h"
 #include "limbs/Decimal.h"
-#include "qel/CharFunctions.h"
+#include "limbs/EightDigits.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace qel {
 
 namespace {
 
-/// The bits that one digit stands for; 0 for a radix that is no supported power of two.
-constexpr int bitsPerDigit(int radix) noexcept {
-    switch (radix) {
-    case 2:
-        return 1;
-    case 8:
-        return 3;
-    case 16:
-        return 4;
-    default:
-        return 0;
-    }
-}
+// --- out ----------------------------------------------------------------------------------------
 
-/// The `bits` bits from `position` up; those above the top are 0.
-unsigned int digitAt(Magnitude a, long long position, int bits) noexcept {
+/// The `count` <= 32 bits from `position` up; those above the top are 0.
+std::uint64_t bitsFrom(Magnitude a, long long position, int count) noexcept {
     int const i = wordIndex(position);
     std::uint64_t const above = i < wordIndex(a.top) ? a.words[i + 1] : 0;
     std::uint64_t const pair = (above << bitsPerWord) | a.words[i];
-    return static_cast<unsigned int>(pair >> (position % bitsPerWord)) & ((1U << bits) - 1);
+    return pair >> (position % bitsPerWord) & ((std::uint64_t{1} << count) - 1);
 }
 
-std::string digitsOfBits(Magnitude a, int bits) noexcept {
-    static constexpr char table[] = "0123456789abcdef";
-    std::string digits(static_cast<std::size_t>(a.top / bits) + 1, '0');
+/// Digits of `bits` bits each, behind the sign if there is one.
+template <int bits>
+std::string textOfBits(Magnitude a, bool negative) noexcept {
+    constexpr int bitsPerBlock = bits * int{limbs::digitsPerBlock};
+    std::size_t const length = static_cast<std::size_t>(a.top / bits) + 1;
+    std::string text(length + (negative ? 1 : 0), '-');
+    char* next = text.data() + text.size();
+    std::size_t left = length;
     long long position = 0;
-    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit, position += bits)
-        *digit = table[digitAt(a, position, bits)];
-    return digits;
+    auto const nextBlock = [&] {
+        std::uint64_t const digits = bitsFrom(a, position, bitsPerBlock);
+        position += bitsPerBlock;
+        return limbs::toCharacters(limbs::splitBits<bits>(digits));
+    };
+    for (; left >= limbs::digitsPerBlock; left -= limbs::digitsPerBlock)
+        limbs::storeBlock(next -= limbs::digitsPerBlock, nextBlock());
+    if (left != 0) {
+        std::uint64_t const block = nextBlock() >> (8 * (limbs::digitsPerBlock - left));
+        std::memcpy(next - left, &block, left);
+    }
+    return text;
 }
 
-std::string decimalDigits(Magnitude a) noexcept {
+std::string textOfDecimal(Magnitude a, bool negative) noexcept {
     std::size_t const count = limbCount(a.top);
     std::size_t const groups = limbs::decimalGroups(count);
     Workspace workspace(count + 1 + limbs::toDecimalScratch(groups));
     limbs::Limb* const rest = workspace.take(count + 1);
     loadLimbs(rest, count, a.words, a.top);
-    std::string digits(groups * limbs::digitsPerGroup, '0');
-    limbs::toDecimal(digits.data(), groups, rest, count, workspace.take(0));
-    digits.erase(0, digits.find_first_not_of('0'));
-    return digits;
+    std::string text(1 + groups * limbs::digitsPerGroup, '0');
+    limbs::toDecimal(text.data() + 1, groups, rest, count, workspace.take(0));
+    std::size_t start = text.find_first_not_of('0');
+    if (negative)
+        text[--start] = '-';
+    text.erase(0, start);
+    return text;
+}
+
+// --- in -----------------------------------------------------------------------------------------
+
+/// The values of the hexadecimal digits, and more for what is no such digit.
+constexpr auto digitValues = [] {
+    std::array<std::uint8_t, 256> values{};
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = static_cast<std::uint8_t>(hexDigitValue(static_cast<char>(i)));
+    return values;
+}();
+
+constexpr unsigned int digitValue(char c) noexcept {
+    return digitValues[static_cast<unsigned char>(c)];
+}
+
+/// Fills limbs with bits from the lowest up.
+class LimbFiller {
+  public:
+    explicit LimbFiller(limbs::Limb* limbs) noexcept : out(limbs) {}
+
+    /// Adds `count` <= 32 bits.
+    void put(limbs::Limb bits, int count) noexcept {
+        gathered |= bits << filled;
+        filled += count;
+        if (filled >= limbs::bitsPerLimb) {
+            *out++ = gathered;
+            filled -= limbs::bitsPerLimb;
+            gathered = bits >> (count - filled);
+        }
+    }
+
+    /// Writes the rest; returns the end of the limbs.
+    limbs::Limb* finish() noexcept {
+        *out++ = gathered;
+        return out;
+    }
+
+  private:
+    limbs::Limb* out;
+    limbs::Limb gathered = 0;
+    int filled = 0;
+};
+
+/// Puts the digits of radix 2^bits in place, the last one first.
+template <int bits>
+void readBits(LimbFiller& out, std::string_view text) noexcept {
+    auto const putSingly = [&out, text](std::size_t begin, std::size_t end) {
+        while (end-- > begin) {
+            unsigned int const digit = digitValue(text[end]);
+            if (digit < 1U << bits)
+                out.put(digit, bits);
+        }
+    };
+    std::size_t left = text.size();
+    while (left >= limbs::digitsPerBlock) {
+        left -= limbs::digitsPerBlock;
+        limbs::Limb digits = 0;
+        unsigned int seen = 0;
+        for (std::size_t i = left; i < left + limbs::digitsPerBlock; ++i) {
+            unsigned int const digit = digitValue(text[i]);
+            seen |= digit;
+            digits = (digits << bits) | digit;
+        }
+        if (seen < 1U << bits)
+            out.put(digits, bits * int{limbs::digitsPerBlock});
+        else
+            putSingly(left, left + limbs::digitsPerBlock);
+    }
+    putSingly(0, left);
+}
+
+/// The capacity that shifting by a digit and adding it, once for each, makes of `size`.
+///
+/// It follows from the last top alone: the first digit that is not 0 has a top below `bits`, and
+/// each one after it raises the top by `bits`. The shift then visits the word above that of the
+/// top, the sum the word above that of the bit above the top.
+int capacityAfterDigits(int size, int top, int bits) noexcept {
+    for (;;) {
+        // From this top on the sum visits a word two below the capacity, or higher.
+        long long const from = static_cast<long long>(bitsPerWord) * (size - 3) - 1;
+        if (top < from)
+            return size;
+        long long const growing = from + (top - from) % bits;
+        size = grownSize(size, wordIndex(growing) + 1);
+        size = grownSize(size, wordIndex(growing + 1) + 1);
+    }
+}
+
+constexpr int topOfTen = 3;
+
+bool isDecimalDigit(char c) noexcept {
+    return c >= '0' && c <= '9';
+}
+
+bool areDecimalDigits(std::string_view text) noexcept {
+    for (; text.size() >= limbs::digitsPerBlock; text.remove_prefix(limbs::digitsPerBlock)) {
+        if (!limbs::areDecimal(limbs::loadBlock(text.data())))
+            return false;
+    }
+    return std::all_of(text.begin(), text.end(), isDecimalDigit);
+}
+
+/// The decimal digits of a text: a part of it where no other characters stand between, else a copy.
+std::string_view decimalDigits(std::string_view text, std::string& copy) noexcept {
+    text.remove_prefix(static_cast<std::size_t>(
+        std::find_if(text.begin(), text.end(), isDecimalDigit) - text.begin()));
+    if (areDecimalDigits(text))
+        return text;
+    copy.resize(text.size());
+    copy.erase(std::copy_if(text.begin(), text.end(), copy.begin(), isDecimalDigit), copy.end());
+    return copy;
 }
 
 }  // namespace
 
 std::string LargeInteger::toString(int radix) const noexcept {
     Magnitude const magnitude{data, getHighestBit()};
-    int const bits = bitsPerDigit(radix);
-    if (magnitude.top < 0 || (bits == 0 && radix != 10))
+    if (magnitude.top < 0)
         return {};
-    std::string digits = bits > 0 ? digitsOfBits(magnitude, bits) : decimalDigits(magnitude);
-    if (negative)
-        digits.insert(digits.begin(), '-');
-    return digits;
+    switch (radix) {
+    case 2:
+        return textOfBits<1>(magnitude, negative);
+    case 8:
+        return textOfBits<3>(magnitude, negative);
+    case 10:
+        return textOfDecimal(magnitude, negative);
+    case 16:
+        return textOfBits<4>(magnitude, negative);
+    default:
+        return {};
+    }
 }
 
 void LargeInteger::parseString(std::string const& text, int radix) noexcept {
     clear();
-    if (bitsPerDigit(radix) > 0)
-        parseBits(text.c_str(), bitsPerDigit(radix));
-    else if (radix == 10)
+    switch (radix) {
+    case 2:
+        parseBits<1>(text.c_str());
+        break;
+    case 8:
+        parseBits<3>(text.c_str());
+        break;
+    case 10:
         parseDecimal(text.c_str());
+        break;
+    case 16:
+        parseBits<4>(text.c_str());
+        break;
+    default:
+        break;
+    }
     negative = !text.empty() && text.front() == '-';
 }
 
-/// Reads into a plain zero. The capacity is what shifting by a digit and adding the digit, once for
-/// each, would leave; the bits are then written in place, the last digit first.
-void LargeInteger::parseBits(char const* text, int bits) noexcept {
-    auto const digitOf = [bits](char c) {
-        int const digit = CharFunctions::GetHexDigitValue(c);
-        return digit < 1 << bits ? digit : -1;
-    };
-    long long top = -1;
-    char const* end = text;
-    for (; *end != '\0'; ++end) {
-        int const digit = digitOf(*end);
-        if (digit < 0)
-            continue;
-        if (top >= 0) {
-            top = checkedPosition(top + bits);
-            ensureSize(wordIndex(top) + 1);
-        }
-        auto const digitBits = std::bit_width(static_cast<unsigned int>(digit));
-        top = std::max(top, static_cast<long long>(digitBits) - 1);
-        ensureSize(wordIndex(top + 1) + 1);
-    }
-    for (long long position = 0; position <= top;) {
-        int const digit = digitOf(*--end);
-        if (digit < 0)
-            continue;
-        std::uint64_t const moved = static_cast<std::uint64_t>(digit) << (position % bitsPerWord);
-        data[wordIndex(position)] |= static_cast<std::uint32_t>(moved);
-        data[wordIndex(position) + 1] |= static_cast<std::uint32_t>(moved >> bitsPerWord);
-        position += bits;
-    }
-    highestBit = static_cast<int>(top);
+/// Reads into a plain zero.
+template <int bits>
+void LargeInteger::parseBits(char const* text) noexcept {
+    std::string_view const characters(text);
+    Workspace workspace(characters.size() * bits / limbs::bitsPerLimb + 1);
+    limbs::Limb* const value = workspace.take(0);
+    LimbFiller filler(value);
+    readBits<bits>(filler, characters);
+    auto const count = static_cast<std::size_t>(filler.finish() - value);
+    int const top = checkedPosition(topBit(value, count));
+    become(value, top, capacityAfterDigits(size, top, bits));
 }
 
 /// Reads into a plain zero. A product has a fresh buffer, so the books are those of the last
-/// multiplication and addition: all digits before the last are read at once.
+/// multiplication by ten and addition of a digit. The factor, all digits before the last, stands in
+/// the object's words while its bits tell the product's capacity.
 void LargeInteger::parseDecimal(char const* text) noexcept {
-    std::string digits;
-    std::copy_if(text, text + std::strlen(text), std::back_inserter(digits),
-                 [](char c) { return c >= '0' && c <= '9'; });
+    std::string copy;
+    std::string_view digits = decimalDigits(text, copy);
     if (digits.empty())
         return;
-    LargeInteger const last(digits.back() - '0');
-    digits.pop_back();
-    digits.erase(0, digits.find_first_not_of('0'));
-    if (!digits.empty()) {
-        std::size_t const groups = (digits.size() - 1) / limbs::digitsPerGroup + 1;
-        Workspace workspace(groups + limbs::fromDecimalScratch(groups));
-        limbs::Limb* const value = workspace.take(groups);
-        limbs::fromDecimal(value, digits.data(), digits.size(), workspace.take(0));
-        int const top = checkedPosition(topBit(value, groups));
-        ensureSize(wordIndex(top));
-        storeWords(data, value, top);
-        highestBit = top;
+    auto const last = static_cast<limbs::Limb>(digits.back() - '0');
+    digits.remove_suffix(1);
+    digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
+    std::size_t const groups = limbs::groupsOf(digits.size());
+    std::size_t const count = groups + 1;
+    Workspace workspace(count + limbs::fromDecimalScratch(groups));
+    limbs::Limb* const value = workspace.take(count);
+    limbs::fromDecimal(value, digits.data(), digits.size(), workspace.take(0));
+    value[groups] = 0;
+    int const factorTop = checkedPosition(topBit(value, count));
+    ensureSize(wordIndex(factorTop));
+    storeWords(data, value, factorTop);
+    limbs::multiplyLimb(value, value, count, 10);
+    int const capacity = grownSize(productCapacity({data, factorTop}, topOfTen),
+                                   wordIndex(topBit(value, count) + 1) + 1);
+    limbs::addLimb(value, value, count, last);
+    become(value, checkedPosition(topBit(value, count)), capacity);
+}
+
+/// A plain zero becomes a value with its capacity.
+void LargeInteger::become(std::uint64_t const* value, int top, int capacity) noexcept {
+    if (capacity != size) {
+        std::free(data);
+        data = checkedBuffer<std::uint32_t>(std::malloc(bytesFor(capacity)));
+        size = capacity;
     }
-    *this *= LargeInteger(10U);
-    *this += last;
+    int const used = wordIndex(top) + 1;
+    storeWords(data, value, top);
+    std::memset(data + used, 0, bytesFor(size) - bytesFor(used - 1));
+    highestBit = top;
 }
 
 }  // namespace qel

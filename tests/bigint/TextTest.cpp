@@ -1,9 +1,12 @@
 // Text in radix 2, 8, 10 and 16, and the leniency of reading.
-#include "LargeIntegerPeer.h"
+#include "PlainDifference.h"
+
+#include "qel/CharFunctions.h"
 
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cstddef>
 #include <random>
 
 namespace {
@@ -14,6 +17,31 @@ LargeInteger parse(std::string const& text, int radix) {
     LargeInteger v(-77);
     v.parseString(text, radix);
     return v;
+}
+
+constexpr int radixes[] = {2, 8, 10, 16};
+
+/// Empty when the text leaves in a value of this capacity what the plain steps leave.
+std::string readingDifference(std::string const& text, int radix, int capacity = 4) {
+    LargeInteger fast(-77);
+    plain::LargeInteger plain(-77);
+    if (capacity > 4) {
+        fast.ensureSize(capacity * 2 / 3 - 2);
+        plain.ensureSize(capacity * 2 / 3 - 2);
+    }
+    fast.parseString(text, radix);
+    plain.parseString(text, radix);
+    return difference(fast, plain);
+}
+
+/// Digits of the radix, none of them 0 at the front.
+std::string digitsOf(int radix, std::size_t length, std::mt19937& random) {
+    std::string digits(length, '1');
+    for (char& c : digits)
+        c = "0123456789abcdef"[random() % static_cast<unsigned>(radix)];
+    if (length != 0 && digits[0] == '0')
+        digits[0] = '1';
+    return digits;
 }
 
 TEST(Text, DocumentedExamples) {
@@ -98,6 +126,123 @@ TEST(Text, ReadingGrowsDigitByDigit) {
     EXPECT_EQ(books(parse("ffffffff", 16)), (Books{6, 31, false}));
 }
 
+TEST(Text, ReadingTakesTheDigitsThatTheTextFunctionsTake) {
+    for (int byte = 1; byte < 256; ++byte) {
+        char const c = static_cast<char>(byte);
+        int const value = qel::CharFunctions::GetHexDigitValue(c);
+        for (int radix : radixes) {
+            int const expected = value >= 0 && value < radix ? value : 0;
+            EXPECT_TRUE(parse({c}, radix).compareAbsolute(LargeInteger(expected)) == 0)
+                << byte << " in radix " << radix;
+        }
+    }
+}
+
+TEST(Text, ReadingSkipsWhatIsNoDigitAtEveryPosition) {
+    std::mt19937 random(7);
+    for (int radix : radixes) {
+        char const tooLarge = "0123456789abcdefg"[radix];
+        for (std::size_t length : {8U, 16U, 19U, 45U}) {
+            std::string const digits = digitsOf(radix, length, random);
+            for (std::size_t position = 0; position <= length; ++position) {
+                for (char c : {tooLarge, '/', ':', '@', 'G', '`', 'x', '-', ' ', '\x80', '\xFF'}) {
+                    std::string text = digits;
+                    text.insert(position, 1, c);
+                    ASSERT_EQ(readingDifference(text, radix), "") << text << " in radix " << radix;
+                    text.insert(random() % text.size(), 1, c);
+                    ASSERT_EQ(readingDifference(text, radix), "") << text << " in radix " << radix;
+                }
+            }
+        }
+    }
+}
+
+TEST(Text, LeadingZerosAreDigitsThatLeaveAZero) {
+    std::mt19937 random(8);
+    for (int radix : radixes) {
+        for (std::size_t zeros = 0; zeros <= 40; ++zeros) {
+            for (std::size_t length = 0; length <= 40; ++length) {
+                std::string const text = std::string(zeros, '0') + digitsOf(radix, length, random);
+                ASSERT_EQ(readingDifference(text, radix), "") << text << " in radix " << radix;
+            }
+        }
+    }
+}
+
+TEST(Text, ReadingZerosReplacesTheBufferInRadixTenOnly) {
+    LargeInteger wide;
+    wide.ensureSize(6);
+    ASSERT_EQ(books(wide), (Books{12, -1, false}));
+    for (int radix : {2, 8, 16}) {
+        wide.parseString("000", radix);
+        EXPECT_EQ(books(wide), (Books{12, -1, false})) << radix;
+    }
+    wide.parseString("no digit", 10);
+    EXPECT_EQ(books(wide), (Books{12, -1, false}));
+    wide.parseString("000", 10);
+    EXPECT_EQ(books(wide), (Books{4, -1, false}));
+}
+
+TEST(Text, ReadingGrowsAsThePlainStepsDoAtEveryLength) {
+    for (int radix : radixes) {
+        std::size_t const longest = radix == 10 ? 150 : radix == 2 ? 1700 : 600;
+        for (std::size_t length = 1; length <= longest; length += 1 + length / 150) {
+            for (char first : {'1', '3', '4', '9', 'F'}) {
+                std::string text(length, static_cast<char>('0' + radix / 3));
+                text[0] = first;
+                ASSERT_EQ(readingDifference(text, radix), "") << text << " in radix " << radix;
+            }
+        }
+    }
+}
+
+TEST(Text, ReadingGrowsFromTheCapacityThatAResetKeeps) {
+    std::mt19937 random(9);
+    for (int capacity = 6; capacity <= 18; capacity += 3) {  // 6, 9, 12, 15; 18 is given back
+        for (int radix : radixes) {
+            for (std::size_t length :
+                 {1U, 20U, 40U, 60U, 80U, 100U, 120U, 140U, 160U, 240U, 480U}) {
+                std::string const text = digitsOf(radix, length / (radix == 10 ? 2 : 1), random);
+                ASSERT_EQ(readingDifference(text, radix, capacity), "")
+                    << text << " in radix " << radix << " from capacity " << capacity;
+            }
+        }
+    }
+}
+
+// The capacity after decimal text follows from set bits of the number without its last digit: a
+// row of zero bits there delays the growth.
+TEST(Text, ReadingDecimalTextWithFewSetBitsGrowsAsThePlainStepsDo) {
+    std::mt19937 random(10);
+    for (int top = 20; top < 500; top += 9) {
+        for (int low = 0; low < 40; low += 13) {
+            LargeInteger value;
+            value.setBit(top);
+            value.setBit(low);
+            value.setBit(static_cast<int>(random() % static_cast<unsigned>(top)));
+            for (char last : {'0', '9'}) {
+                std::string const text = value.toString(10) + last;
+                ASSERT_EQ(readingDifference(text, 10), "") << text;
+            }
+        }
+    }
+}
+
+TEST(Text, WritesEveryLengthAsThePlainStepsDo) {
+    std::mt19937 random(11);
+    for (int bits = 1; bits <= 200; ++bits) {
+        for (int radix : radixes) {
+            std::string const text = (bits % 3 == 0 ? "-1" : "1")
+                                     + digitsOf(2, static_cast<std::size_t>(bits) - 1, random);
+            LargeInteger fast;
+            plain::LargeInteger plain;
+            fast.parseString(text, 2);
+            plain.parseString(text, 2);
+            ASSERT_EQ(fast.toString(radix), plain.toString(radix)) << text << " in " << radix;
+        }
+    }
+}
+
 TEST(Text, EveryRadixReadsBackWhatItWrites) {
     std::mt19937 random(6);
     for (int round = 0; round < 300; ++round) {
@@ -105,7 +250,7 @@ TEST(Text, EveryRadixReadsBackWhatItWrites) {
         for (int i = static_cast<int>(random() % 8); i >= 0; --i)
             v.setBitRangeAsInt(i * 32, 32, static_cast<unsigned int>(random()));
         v.setNegative(random() % 2 == 0);
-        for (int radix : {2, 8, 10, 16})
+        for (int radix : radixes)
             EXPECT_EQ(parse(v.toString(radix), radix), v) << v.toString(16) << ' ' << radix;
     }
 }
