@@ -1,4 +1,4 @@
-// Arithmetic on eight numbers at once, digit beside digit: the kernels under LanePower.h, in
+// Arithmetic on eight numbers at once, digit beside digit: the kernels under StrongTests.h, in
 // variants like those of Kernels.h.
 //
 // A number has digits of 52 bits, lowest first, in blocks of five; digit i of the eight numbers
