@@ -158,7 +158,8 @@ LargeInteger largestModulus(std::size_t blocks) {
 }
 
 LargeInteger anyNumber(Operands& operands, std::size_t lane, LargeInteger const& end) {
-    Limbs const limbs = operands.make(patterns[lane], end.getHighestBit() / 64 + 1);
+    Limbs const limbs =
+        operands.make(patterns[lane], static_cast<std::size_t>(end.getHighestBit()) / 64 + 1);
     return integerOf(limbs) % end;
 }
 

@@ -265,7 +265,8 @@ TEST(StrongTests, OfMixedLengthsBasesAndTwos) {
             int const bits = 2 + static_cast<int>(operands.below(400));
             LargeInteger n = anyOdd(operands, patterns[operands.below(8)], bits);
             if (operands.below(3) == 0) {
-                int const twos = 1 + static_cast<int>(operands.below(bits - 1U));
+                int const twos =
+                    1 + static_cast<int>(operands.below(static_cast<std::size_t>(bits) - 1));
                 n = ((n >> twos) << twos) + LargeInteger(1);
             }
             std::size_t const bases = 1 + operands.below(std::size(windowBases));

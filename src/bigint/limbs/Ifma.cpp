@@ -11,8 +11,8 @@
 
 #include <immintrin.h>
 
-#define QEL_IFMA [[gnu::target("avx512ifma")]]
-#define QEL_IFMA_INLINE [[gnu::target("avx512ifma"), gnu::always_inline]] inline
+#define QEL_IFMA [[gnu::target("avx512f,avx512ifma")]]
+#define QEL_IFMA_INLINE [[gnu::target("avx512f,avx512ifma"), gnu::always_inline]] inline
 
 namespace qel::limbs {
 
@@ -124,7 +124,7 @@ QEL_IFMA_INLINE void loadBlock(Column (&out)[block], Limb const* a) noexcept {
 /// of a higher block has yet to double.
 QEL_IFMA_INLINE void squareColumns(Limb* out, Limb const* y, std::size_t blocks) noexcept {
     for (std::size_t i = 0; i < 2 * block * blocks; ++i)
-        store(out, static_cast<int>(i), _mm512_setzero_si512());
+        store(out, static_cast<int>(i), Column{});
     for (std::size_t i = 0; i < blocks; ++i) {
         Column a[block];
         loadBlock(a, y + i * limbsPerBlock);
@@ -164,7 +164,7 @@ QEL_IFMA_INLINE void reduceLastBlock(Limb* y, Limb const* t, LaneModuli const& m
 #pragma GCC unroll 10
     for (int i = 0; i < 2 * block; ++i)
         sums.column[i] = load(t, i);
-    Column const zero = _mm512_setzero_si512();
+    Column const zero = Column{};
 #pragma GCC unroll 5
     for (int i = 0; i + 1 < block; ++i) {
         m[i] = sums.column[i];
@@ -215,13 +215,13 @@ QEL_IFMA void multiplyDigitIfma(Limb* y, LaneModuli const& moduli, Limb const* f
                                 Limb* /*scratch*/) noexcept {
     int const count = static_cast<int>(moduli.blocks) * block;
     Column const c = load(factor, 0);
-    Column sum = _mm512_setzero_si512();
+    Column sum = Column{};
     addLow(sum, load(y, 0), c);
-    Column m = _mm512_setzero_si512();
+    Column m = Column{};
     addLow(m, sum, load(moduli.negatedInverse, 0));
     addLow(sum, m, load(moduli.moduli, 0));
     for (int i = 1; i < count; ++i) {
-        Column next = _mm512_setzero_si512();
+        Column next = Column{};
         addHigh(next, load(y, i - 1), c);
         addHigh(next, m, load(moduli.moduli, i - 1));
         addLow(next, load(y, i), c);
@@ -229,7 +229,7 @@ QEL_IFMA void multiplyDigitIfma(Limb* y, LaneModuli const& moduli, Limb const* f
         sum = add(next, carryOf(sum));
         store(y, i - 1, sum);
     }
-    Column top = _mm512_setzero_si512();
+    Column top = Column{};
     addHigh(top, load(y, count - 1), c);
     addHigh(top, m, load(moduli.moduli, count - 1));
     store(y, count - 1, add(top, carryOf(sum)));

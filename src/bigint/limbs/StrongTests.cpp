@@ -193,14 +193,14 @@ void StrongTests::divideScratch(Limb* scratch) noexcept {
 }
 
 void StrongTests::prepareModuli() noexcept {
+    std::fill(y, y + lanes * digits, Limb{0});
     for (std::size_t lane = 0; lane < lanes; ++lane) {
         spread(modulusDigits + lane, digits, moduli[lane], count);
         negatedInverses[lane] = negatedInverse(moduli[lane][0]) & digitMask;
+        y[lane] = 1;
+        factor[lane] = 1;
     }
     // From 1, each product with 1 is a division by 2^52.
-    std::fill(factor, factor + lanes, Limb{1});
-    std::fill(y, y + lanes * digits, Limb{0});
-    std::fill(y, y + lanes, Limb{1});
     kernels.multiplyDigit(y, context, factor, kernelScratch);
     std::copy(y, y + lanes * digits, inverseOfDigit);
     for (std::size_t i = 1; i < digitsPerBlock; ++i)
