@@ -87,3 +87,14 @@ void Microseconds(UnsignedWide* counter) {
     frameworks.calls.emplace_back("Microseconds");
     *counter = frameworks.counter;
 }
+
+int sysctlbyname(char const* name, void* oldValue, std::size_t* oldSize, void* newValue,
+                 std::size_t newSize) {
+    frameworks.calls.push_back(std::string("sysctlbyname ") + name);
+    EXPECT_EQ(*oldSize, sizeof frameworks.feature);
+    EXPECT_EQ(newValue, nullptr);
+    EXPECT_EQ(newSize, 0U);
+    if (frameworks.featureStatus == 0)
+        std::memcpy(oldValue, &frameworks.feature, sizeof frameworks.feature);
+    return frameworks.featureStatus;
+}

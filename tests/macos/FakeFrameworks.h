@@ -3,6 +3,7 @@
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <CoreServices/CoreServices.h>
+#include <sys/sysctl.h>
 
 #include <string>
 #include <vector>
@@ -18,6 +19,8 @@ struct FakeFrameworks {
     bool stringFits = true;
     std::string utf8;
     UnsignedWide counter = {0, 0};
+    int featureStatus = 0;
+    int feature = 0;
 
     // What they were asked.
     std::vector<std::string> calls;

@@ -2,6 +2,7 @@
 #include "Kernels.h"
 
 #include "LaneKernels.h"
+#include "WideRegisters.h"
 
 #include <atomic>
 
@@ -28,28 +29,9 @@ bool hasFeatures(unsigned int features) noexcept {
     return __get_cpuid_count(7, 0, &eax, &ebx, &ecx, &edx) != 0 && (ebx & features) == features;
 }
 
-/// Whether the system keeps registers of 512 bits for each thread: xgetbv tells which states it
-/// saves, where it lets programs ask.
-bool savesWideRegisters() noexcept {
-    constexpr unsigned int osxsave = 1U << 27;
-    constexpr unsigned int wideStates = 0xE6;  // SSE, AVX, masks, upper halves, upper registers
-    unsigned int eax = 0;
-    unsigned int ebx = 0;
-    unsigned int ecx = 0;
-    unsigned int edx = 0;
-    if (__get_cpuid(1, &eax, &ebx, &ecx, &edx) == 0 || (ecx & osxsave) == 0)
-        return false;
-    asm("xgetbv" : "=a"(eax), "=d"(edx) : "c"(0));
-    return (eax & wideStates) == wideStates;
-}
-
 #else
 
 bool hasFeatures(unsigned int /*features*/) noexcept {
-    return false;
-}
-
-bool savesWideRegisters() noexcept {
     return false;
 }
 
