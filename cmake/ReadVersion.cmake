@@ -3,6 +3,7 @@
 function(qel_read_version file out)
     file(READ "${file}" text)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${file}")
+    set(numbers "")
     foreach(part Major Minor Release)
         if(NOT text MATCHES "int version${part} = ([0-9]+);")
             message(FATAL_ERROR "qel: no version${part} in ${file}")
