@@ -15,26 +15,32 @@ TEST(LimbAdd, IsTheSumWithItsCarryAlsoInPlace) {
     onPairs(1, rowLengths(), [](Limbs const& a, Limbs const& b) {
         Limbs const expected = sum(a, b);
         std::size_t const count = a.size();
-        Fenced out(count);
-        Fenced inA(a);
-        Fenced inB(b);
-        Limb const carries[] = {limbs::add(out.data(), a.data(), b.data(), count),
-                                limbs::add(inA.data(), inA.data(), b.data(), count),
-                                limbs::add(inB.data(), a.data(), inB.data(), count)};
-        Fenced const* const outs[] = {&out, &inA, &inB};
-        for (int i = 0; i < 3; ++i) {
-            ASSERT_EQ(with(outs[i]->values(), carries[i]), expected) << input("a", a, "b", b);
-            ASSERT_TRUE(outs[i]->intact());
+        for (Variant const& variant : variants()) {
+            auto const add = variant.kernels->add;
+            Fenced out(count);
+            Fenced inA(a);
+            Fenced inB(b);
+            Limb const carries[] = {add(out.data(), a.data(), b.data(), count),
+                                    add(inA.data(), inA.data(), b.data(), count),
+                                    add(inB.data(), a.data(), inB.data(), count)};
+            Fenced const* const outs[] = {&out, &inA, &inB};
+            for (int i = 0; i < 3; ++i) {
+                ASSERT_EQ(with(outs[i]->values(), carries[i]), expected)
+                    << variant.name << input("a", a, "b", b);
+                ASSERT_TRUE(outs[i]->intact()) << variant.name;
+            }
         }
     });
 }
 
 TEST(LimbAdd, DoublesANumberInPlace) {
     onOperands(2, rowLengths(), [](Limbs const& a) {
-        Fenced out(a);
-        Limb const carry = limbs::add(out.data(), out.data(), out.data(), a.size());
-        ASSERT_EQ(with(out.values(), carry), sum(a, a)) << input("a", a);
-        ASSERT_TRUE(out.intact());
+        for (Variant const& variant : variants()) {
+            Fenced out(a);
+            Limb const carry = variant.kernels->add(out.data(), out.data(), out.data(), a.size());
+            ASSERT_EQ(with(out.values(), carry), sum(a, a)) << variant.name << input("a", a);
+            ASSERT_TRUE(out.intact()) << variant.name;
+        }
     });
 }
 
@@ -42,16 +48,20 @@ TEST(LimbAdd, DoublesANumberInPlace) {
 TEST(LimbSubtract, IsTheDifferenceWithItsBorrowAlsoInPlace) {
     onPairs(3, rowLengths(), [](Limbs const& a, Limbs const& b) {
         std::size_t const count = a.size();
-        Fenced out(count);
-        Fenced inA(a);
-        Fenced inB(b);
-        Limb const borrows[] = {limbs::subtract(out.data(), a.data(), b.data(), count),
-                                limbs::subtract(inA.data(), inA.data(), b.data(), count),
-                                limbs::subtract(inB.data(), a.data(), inB.data(), count)};
-        Fenced const* const outs[] = {&out, &inA, &inB};
-        for (int i = 0; i < 3; ++i) {
-            ASSERT_EQ(sum(outs[i]->values(), b), with(a, borrows[i])) << input("a", a, "b", b);
-            ASSERT_TRUE(outs[i]->intact());
+        for (Variant const& variant : variants()) {
+            auto const subtract = variant.kernels->subtract;
+            Fenced out(count);
+            Fenced inA(a);
+            Fenced inB(b);
+            Limb const borrows[] = {subtract(out.data(), a.data(), b.data(), count),
+                                    subtract(inA.data(), inA.data(), b.data(), count),
+                                    subtract(inB.data(), a.data(), inB.data(), count)};
+            Fenced const* const outs[] = {&out, &inA, &inB};
+            for (int i = 0; i < 3; ++i) {
+                ASSERT_EQ(sum(outs[i]->values(), b), with(a, borrows[i]))
+                    << variant.name << input("a", a, "b", b);
+                ASSERT_TRUE(outs[i]->intact()) << variant.name;
+            }
         }
     });
 }
@@ -88,6 +98,15 @@ TEST(LimbSubtractLimb, BorrowsAnyLimbFromTheNumberAlsoInPlace) {
 }
 
 // Products are folded with rests of no limbs.
+TEST(LimbAdd, OfNoLimbsCarriesNothing) {
+    for (Variant const& variant : variants()) {
+        Fenced out(std::size_t{0});
+        EXPECT_EQ(variant.kernels->add(out.data(), out.data(), out.data(), 0), 0U);
+        EXPECT_EQ(variant.kernels->subtract(out.data(), out.data(), out.data(), 0), 0U);
+        EXPECT_TRUE(out.intact());
+    }
+}
+
 TEST(LimbAddLimb, OfNoLimbsReturnsTheCarry) {
     Fenced out(std::size_t{0});
     EXPECT_EQ(limbs::addLimb(out.data(), out.data(), 0, 7), 7U);
@@ -178,14 +197,19 @@ TEST(LimbMultiplyLimb, IsTheProductAlsoInPlace) {
     onOperands(10, rowLengths(), [](Limbs const& a) {
         for (Limb const b : edgeLimbs) {
             Limbs const expected = product(a, {b});
-            Fenced out(a.size());
-            Fenced inA(a);
-            Limb const top = limbs::multiplyLimb(out.data(), a.data(), a.size(), b);
-            Limb const topInA = limbs::multiplyLimb(inA.data(), inA.data(), a.size(), b);
-            ASSERT_EQ(with(out.values(), top), expected) << input("a", a, "b", b);
-            ASSERT_EQ(with(inA.values(), topInA), expected) << input("a", a, "b", b);
-            ASSERT_TRUE(out.intact());
-            ASSERT_TRUE(inA.intact());
+            for (Variant const& variant : variants()) {
+                auto const multiplyLimb = variant.kernels->multiplyLimb;
+                Fenced out(a.size());
+                Fenced inA(a);
+                Limb const top = multiplyLimb(out.data(), a.data(), a.size(), b);
+                Limb const topInA = multiplyLimb(inA.data(), inA.data(), a.size(), b);
+                ASSERT_EQ(with(out.values(), top), expected)
+                    << variant.name << input("a", a, "b", b);
+                ASSERT_EQ(with(inA.values(), topInA), expected)
+                    << variant.name << input("a", a, "b", b);
+                ASSERT_TRUE(out.intact()) << variant.name;
+                ASSERT_TRUE(inA.intact()) << variant.name;
+            }
         }
     });
 }
@@ -240,32 +264,41 @@ TEST(LimbVariants, TheFastestThatRunsIsChosenUnlessATestChooses) {
 /// A variant of which each kernel leaves its number and does nothing else.
 int asked = 0;
 limbs::Kernels const asking = {
-    [](Limb*, Limb const*, std::size_t, Limb) noexcept -> Limb { return asked = 1, 0; },
-    [](Limb*, Limb const*, std::size_t, Limb const*, std::size_t) noexcept { asked = 2; },
-    [](Limb*, Limb const*, std::size_t) noexcept { asked = 3; },
-    [](Limb*, Limb*, Limb const*, std::size_t, Limb) noexcept { asked = 4; }};
+    [](Limb*, Limb const*, Limb const*, std::size_t) noexcept -> Limb { return asked = 1, 0; },
+    [](Limb*, Limb const*, Limb const*, std::size_t) noexcept -> Limb { return asked = 2, 0; },
+    [](Limb*, Limb const*, std::size_t, Limb) noexcept -> Limb { return asked = 3, 0; },
+    [](Limb*, Limb const*, std::size_t, Limb) noexcept -> Limb { return asked = 4, 0; },
+    [](Limb*, Limb const*, std::size_t, Limb const*, std::size_t) noexcept { asked = 5; },
+    [](Limb*, Limb const*, std::size_t) noexcept { asked = 6; },
+    [](Limb*, Limb*, Limb const*, std::size_t, Limb) noexcept { asked = 7; }};
 
 // All variants give the same results, so that only one that does not shows who is asked.
 TEST(LimbVariants, TheOneInUseIsAskedForAllThatHasVariants) {
     Using const use({"asking", &asking});
     Limbs out(6);
     Limbs const a{1, 0, 0};
-    limbs::addMultiply(out.data(), a.data(), 3, 1);
+    limbs::add(out.data(), a.data(), a.data(), 3);
     EXPECT_EQ(asked, 1);
-    limbs::multiply(out.data(), a.data(), 3, a.data(), 3, nullptr);
+    limbs::subtract(out.data(), a.data(), a.data(), 3);
     EXPECT_EQ(asked, 2);
-    limbs::square(out.data(), a.data(), 3, nullptr);
+    limbs::multiplyLimb(out.data(), a.data(), 3, 1);
     EXPECT_EQ(asked, 3);
+    limbs::addMultiply(out.data(), a.data(), 3, 1);
+    EXPECT_EQ(asked, 4);
+    limbs::multiply(out.data(), a.data(), 3, a.data(), 3, nullptr);
+    EXPECT_EQ(asked, 5);
+    limbs::square(out.data(), a.data(), 3, nullptr);
+    EXPECT_EQ(asked, 6);
     Limbs const divisor{1, 1, topBit};
     Limb quotient = 0;
     limbs::divideNormalized(&quotient, out.data(), 4, divisor.data(), 3);
-    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(asked, 4);
     Limb const three = 3;
     Limb result[3];
     Limbs scratch(limbs::powerScratch(1, 0));
     limbs::power(&result[0], &result[1], &result[2], a.data(), a.data(), 0, &three, 1,
                  scratch.data());
-    EXPECT_EQ(asked, 4);
+    EXPECT_EQ(asked, 7);
 }
 
 }  // namespace

@@ -70,13 +70,12 @@ std::vector<std::size_t> lengthsAround(std::size_t threshold) {
 }
 
 TEST(LimbMultiply, OfOneLengthAroundEachLevelOfHalves) {
-    onPairs(30, lengthsAround(limbs::karatsubaMultiply), expectProduct);
+    onPairs(30, lengthsAround(limbs::halvesMultiply), expectProduct);
 }
 
 // Of the differences of halves none, one or both are negative, and either may be zero.
 TEST(LimbMultiply, TakesDifferencesOfHalvesOfEitherSign) {
-    for (std::size_t count = limbs::karatsubaMultiply; count < limbs::karatsubaMultiply + 4;
-         ++count) {
+    for (std::size_t count = limbs::halvesMultiply; count < limbs::halvesMultiply + 4; ++count) {
         std::size_t const half = count - count / 2;
         Limbs highMore(count, 5);
         std::fill_n(highMore.begin(), half, 2);
@@ -95,7 +94,7 @@ TEST(LimbMultiply, TakesDifferencesOfHalvesOfEitherSign) {
 
 TEST(LimbMultiply, OfEachLengthUpToFourTimesTheThreshold) {
     Operands operands(31);
-    for (std::size_t count = 1; count <= 4 * limbs::karatsubaMultiply && !HasFailure(); ++count) {
+    for (std::size_t count = 1; count <= 4 * limbs::halvesMultiply && !HasFailure(); ++count) {
         for (int i = 0; i < 4; ++i)
             expectProduct(operands.any(count), operands.any(count));
     }
@@ -104,7 +103,7 @@ TEST(LimbMultiply, OfEachLengthUpToFourTimesTheThreshold) {
 // Whole slices, a last slice of one limb, below and above the threshold, and short of whole.
 TEST(LimbMultiply, OfALongerByAShorterNumber) {
     Operands operands(32);
-    constexpr std::size_t threshold = limbs::karatsubaMultiply;
+    constexpr std::size_t threshold = limbs::halvesMultiply;
     for (std::size_t const b : {std::size_t{1}, std::size_t{2}, threshold - 1, threshold,
                                 threshold + 1, 2 * threshold - 1, 2 * threshold + 1}) {
         for (std::size_t const more :
@@ -133,8 +132,8 @@ TEST(LimbMultiply, OfLengthsThatGoDownThroughManySlices) {
 }
 
 TEST(LimbMultiply, BelowTheThresholdNeedsNoScratch) {
-    EXPECT_EQ(limbs::multiplyScratch(1000, limbs::karatsubaMultiply - 1), 0U);
-    EXPECT_EQ(limbs::squareScratch(limbs::karatsubaSquare - 1), 0U);
+    EXPECT_EQ(limbs::multiplyScratch(1000, limbs::halvesMultiply - 1), 0U);
+    EXPECT_EQ(limbs::squareScratch(limbs::halvesSquare - 1), 0U);
 }
 
 // --- squares ------------------------------------------------------------------------------------
@@ -153,12 +152,12 @@ void expectSquare(Limbs const& a) {
 
 TEST(LimbSquare, AroundEachLevelOfHalves) {
     for (unsigned seed = 40; seed < 44; ++seed)
-        onOperands(seed, lengthsAround(limbs::karatsubaSquare), expectSquare);
+        onOperands(seed, lengthsAround(limbs::halvesSquare), expectSquare);
 }
 
 TEST(LimbSquare, OfEachLengthUpToFourTimesTheThreshold) {
     Operands operands(44);
-    for (std::size_t count = 1; count <= 4 * limbs::karatsubaSquare && !HasFailure(); ++count) {
+    for (std::size_t count = 1; count <= 4 * limbs::halvesSquare && !HasFailure(); ++count) {
         for (int i = 0; i < 4; ++i)
             expectSquare(operands.any(count));
     }

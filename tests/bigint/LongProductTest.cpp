@@ -39,8 +39,9 @@ void expectSquare(Limbs const& a) {
 /// One below, at and above each length at which a method changes, and twice that length.
 std::vector<std::size_t> edges() {
     std::vector<std::size_t> all{1, 2, 3};
-    for (std::size_t edge : {karatsubaMultiply, karatsubaSquare, 2 * karatsubaMultiply,
-                             transformMultiply, transformSquare, 2 * transformMultiply})
+    for (std::size_t edge : {halvesMultiply, halvesSquare, 2 * halvesMultiply, thirdsMultiply,
+                             thirdsSquare, 3 * thirdsMultiply, 3 * thirdsSquare, transformMultiply,
+                             transformSquare, 2 * transformMultiply})
         all.insert(all.end(), {edge - 1, edge, edge + 1});
     return all;
 }

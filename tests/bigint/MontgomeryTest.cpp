@@ -323,9 +323,9 @@ TEST(LimbPower, ModuloNumbersOfEachLengthWithTheirTopBitSetAndClear) {
 TEST(LimbPower, ModuloNumbersWhoseProductsAreTakenByHalves) {
     Operands operands(104);
     onModuli(105,
-             {limbs::karatsubaMultiply - 1, limbs::karatsubaMultiply, limbs::karatsubaMultiply + 1,
-              limbs::karatsubaSquare - 1, limbs::karatsubaSquare, limbs::karatsubaSquare + 1,
-              2 * limbs::karatsubaSquare},
+             {limbs::halvesMultiply - 1, limbs::halvesMultiply, limbs::halvesMultiply + 1,
+              limbs::halvesSquare - 1, limbs::halvesSquare, limbs::halvesSquare + 1,
+              2 * limbs::halvesSquare},
              [&](Limbs const& modulus) {
                  expectPower(anyBelow(operands, modulus), {0b1'0110'1111}, modulus);
              });

@@ -1,116 +1,153 @@
-// The variant for x86-64 processors with BMI2 and ADX. A row keeps two carries at once: adcx adds
-// the high half of the product before, adox the old value of out; mulx disturbs neither flag.
+// The variant for x86-64 processors with BMI2 and ADX: what is made of its loops.
+//
+// Every function is a template over kinds of rows, of which there are one for each count from 1 to
+// 16, all limbs in sequence, and, for more limbs, one for each rest modulo 8, with a loop over
+// blocks of eight. The kind is looked up once for all rows of a product.
+#include "AdxLoops.h"
 #include "Kernels.h"
-#include "Rows.h"
 
 #if defined(__x86_64__)
 
+#include <array>
 #include <utility>
 
 namespace qel::limbs {
 
 namespace {
 
-// One limb: low:high = a[k] * b; low += carry (CF) and += out[k] (OF). The high half is the next
-// limb's carry, so the two registers change places from limb to limb.
-#define QEL_LIMB(offset, carry, high)                                                              \
-    "mulxq " #offset "(%[a]), %[low], %[" #high "]\n\t"                                            \
-    "adcxq %[" #carry "], %[low]\n\t"                                                              \
-    "adoxq " #offset "(%[out]), %[low]\n\t"                                                        \
-    "movq %[low], " #offset "(%[out])\n\t"
-#define QEL_LIMBS_1 QEL_LIMB(0, carry, high)
-#define QEL_LIMBS_2 QEL_LIMBS_1 QEL_LIMB(8, high, carry)
-#define QEL_LIMBS_3 QEL_LIMBS_2 QEL_LIMB(16, carry, high)
-#define QEL_LIMBS_4 QEL_LIMBS_3 QEL_LIMB(24, high, carry)
-#define QEL_LIMBS_5 QEL_LIMBS_4 QEL_LIMB(32, carry, high)
-#define QEL_LIMBS_6 QEL_LIMBS_5 QEL_LIMB(40, high, carry)
-#define QEL_LIMBS_7 QEL_LIMBS_6 QEL_LIMB(48, carry, high)
-#define QEL_LIMBS_8 QEL_LIMBS_7 QEL_LIMB(56, high, carry)
+using adx::Row;
+using adx::Sum;
+using adx::sumOf;
 
-// A few limbs in a row, from a carry of zero. After an odd number the carry is in `high`.
-#define QEL_HEAD(limbs, last)                                                                      \
-    asm volatile("xorl %k[zero], %k[zero]\n\t" limbs "adcxq %[zero], %[" #last "]\n\t"             \
-                 "adoxq %[zero], %[" #last "]\n\t"                                                 \
-                 : [carry] "+&r"(carry), [high] "=&r"(high), [low] "=&r"(low), [zero] "=&r"(zero)  \
-                 : [a] "r"(a), [out] "r"(out), "d"(b)                                              \
-                 : "cc", "memory")
+constexpr std::size_t mostInSequence = 16;
+constexpr std::size_t kindCount = mostInSequence + 1 + 8;
 
-/// The first 0 to 7 limbs of a row; returns the carry.
-inline Limb head(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept {
-    Limb carry = 0;
-    Limb high = 0;
-    Limb low = 0;
-    Limb zero = 0;
-    switch (count) {
-    case 1:
-        QEL_HEAD(QEL_LIMBS_1, high);
-        return high;
-    case 2:
-        QEL_HEAD(QEL_LIMBS_2, carry);
-        return carry;
-    case 3:
-        QEL_HEAD(QEL_LIMBS_3, high);
-        return high;
-    case 4:
-        QEL_HEAD(QEL_LIMBS_4, carry);
-        return carry;
-    case 5:
-        QEL_HEAD(QEL_LIMBS_5, high);
-        return high;
-    case 6:
-        QEL_HEAD(QEL_LIMBS_6, carry);
-        return carry;
-    case 7:
-        QEL_HEAD(QEL_LIMBS_7, high);
-        return high;
-    default:
-        return 0;
-    }
+std::size_t kindOf(std::size_t count) noexcept {
+    return count <= mostInSequence ? count : mostInSequence + 1 + count % 8;
 }
+
+template <std::size_t kind, Row row = Row::adding>
+[[gnu::always_inline]] inline Limb rowOf(Limb* out, Limb const* a, std::size_t count,
+                                         Limb b) noexcept {
+    if constexpr (kind <= mostInSequence)
+        return adx::row<row, kind, false>(out, a, 0, b);
+    else
+        return adx::row<row, kind - mostInSequence - 1, true>(out, a, count / 8, b);
+}
+
+/// The functions call<kind> of a class template.
+template <template <std::size_t> typename Of>
+constexpr auto forEachKind = []<std::size_t... kind>(std::index_sequence<kind...>) {
+    return std::array{&Of<kind>::call...};
+}
+(std::make_index_sequence<kindCount>{});
+
+template <std::size_t kind>
+struct FirstRow {
+    static Limb call(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept {
+        return rowOf<kind, Row::first>(out, a, count, b);
+    }
+};
+
+Limb multiplyLimbAdx(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept {
+    return forEachKind<FirstRow>[kindOf(count)](out, a, count, b);
+}
+
+template <std::size_t kind>
+struct AddingRow {
+    static Limb call(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept {
+        return rowOf<kind>(out, a, count, b);
+    }
+};
 
 Limb addMultiplyAdx(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept {
-    std::size_t const first = count % 8;
-    Limb carry = head(out, a, first, b);
-    std::size_t blocks = count / 8;
-    if (blocks == 0)
-        return carry;
-    out += first;
-    a += first;
-    Limb high = 0;
-    Limb low = 0;
-    Limb zero = 0;
-    // Between blocks both carries live in the flags: lea and jrcxz touch none.
-    asm volatile("xorl %k[zero], %k[zero]\n"
-                 "1:\n\t" QEL_LIMBS_8 "leaq 64(%[a]), %[a]\n\t"
-                 "leaq 64(%[out]), %[out]\n\t"
-                 "leaq -1(%[blocks]), %[blocks]\n\t"
-                 "jrcxz 2f\n\t"
-                 "jmp 1b\n"
-                 "2:\n\t"
-                 "adcxq %[zero], %[carry]\n\t"
-                 "adoxq %[zero], %[carry]\n\t"
-                 : [carry] "+&r"(carry), [high] "=&r"(high), [low] "=&r"(low), [zero] "=&r"(zero),
-                   [a] "+&r"(a), [out] "+&r"(out), [blocks] "+&c"(blocks)
-                 : "d"(b)
-                 : "cc", "memory");
-    return carry;
+    return forEachKind<AddingRow>[kindOf(count)](out, a, count, b);
 }
 
-#undef QEL_LIMB
-#undef QEL_LIMBS_1
-#undef QEL_LIMBS_2
-#undef QEL_LIMBS_3
-#undef QEL_LIMBS_4
-#undef QEL_LIMBS_5
-#undef QEL_LIMBS_6
-#undef QEL_LIMBS_7
-#undef QEL_LIMBS_8
-#undef QEL_HEAD
+template <std::size_t kind>
+struct MultiplyRows {
+    static void call(Limb* out, Limb const* a, std::size_t aCount, Limb const* b,
+                     std::size_t bCount) noexcept {
+        out[aCount] = rowOf<kind, Row::first>(out, a, aCount, b[0]);
+        for (std::size_t i = 1; i < bCount; ++i)
+            out[aCount + i] = rowOf<kind>(out + i, a, aCount, b[i]);
+    }
+};
+
+void multiplyRowsAdx(Limb* out, Limb const* a, std::size_t aCount, Limb const* b,
+                     std::size_t bCount) noexcept {
+    forEachKind<MultiplyRows>[kindOf(aCount)](out, a, aCount, b, bCount);
+}
+
+/// The rows of a square, each a limb shorter than the one before: products of a limb with those
+/// above it.
+class Triangle {
+  public:
+    Triangle(Limb* square, Limb const* number, std::size_t count) noexcept
+        : out(square + 1), a(number), carries(square + count), left(count - 1) {}
+
+    [[nodiscard]] std::size_t rowsLeft() const noexcept { return left; }
+
+    template <typename AnyRow>
+    [[gnu::always_inline]] void take(AnyRow row) noexcept {
+        Limb const b = *a++;
+        *carries++ = row(out, a, left--, b);
+        out += 2;
+    }
+
+    /// The row of `count` limbs in sequence, if it is next.
+    template <std::size_t count>
+    [[gnu::always_inline]] void takeIfNext() noexcept {
+        if (left == count)
+            take(rowOf<count>);
+    }
+
+  private:
+    Limb* out;
+    Limb const* a;
+    Limb* carries;
+    std::size_t left;
+};
+
+// Each product of two different limbs once; the sum doubles them.
+void squareRowsAdx(Limb* out, Limb const* a, std::size_t count) noexcept {
+    if (count > 1) {
+        Triangle triangle(out, a, count);
+        triangle.take(multiplyLimbAdx);
+        while (triangle.rowsLeft() > mostInSequence)
+            triangle.take(addMultiplyAdx);
+        [&]<std::size_t... i>(std::index_sequence<i...>) {
+            (triangle.takeIfNext<mostInSequence - i>(), ...);
+        }
+        (std::make_index_sequence<mostInSequence>{});
+    }
+    out[0] = 0;
+    out[2 * count - 1] = 0;
+    adx::doubleAndAddSquares(out, a, count);
+}
+
+// Montgomery's reduction, as the portable one.
+template <std::size_t kind>
+struct Reduce {
+    static void call(Limb* out, Limb* t, Limb const* modulus, std::size_t count,
+                     Limb negatedInverse) noexcept {
+        for (std::size_t i = 0; i < count; ++i)
+            t[i] = rowOf<kind>(t + i, modulus, count, t[i] * negatedInverse);
+        Limb const carry = sumOf<Sum::plus>(out, t + count, t, count);
+        if (carry != 0 || compare(out, modulus, count) >= 0)
+            sumOf<Sum::minus>(out, out, modulus, count);
+    }
+};
+
+void reduceAdx(Limb* out, Limb* t, Limb const* modulus, std::size_t count,
+               Limb negatedInverse) noexcept {
+    forEachKind<Reduce>[kindOf(count)](out, t, modulus, count, negatedInverse);
+}
 
 }  // namespace
 
-Kernels const adxKernels = {addMultiplyAdx, multiplyRows<addMultiplyAdx>,
-                            squareRows<addMultiplyAdx>, reduceRows<addMultiplyAdx>};
+Kernels const adxKernels = {sumOf<Sum::plus>, sumOf<Sum::minus>, multiplyLimbAdx, addMultiplyAdx,
+                            multiplyRowsAdx,  squareRowsAdx,     reduceAdx};
 
 }  // namespace qel::limbs
 

@@ -9,6 +9,12 @@
 namespace qel::limbs {
 
 struct Kernels {
+    /// out = a + b; returns the carry.
+    Limb (*add)(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept;
+    /// out = a - b; returns the borrow.
+    Limb (*subtract)(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept;
+    /// out = a * b; returns the highest limb of the product.
+    Limb (*multiplyLimb)(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept;
     /// out += a * b; returns the carry.
     Limb (*addMultiply)(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept;
     /// out[0, aCount + bCount) = a * b, row by row.

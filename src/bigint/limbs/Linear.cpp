@@ -3,16 +3,6 @@
 
 namespace qel::limbs {
 
-Limb add(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept {
-    Limb carry = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        DoubleLimb const sum = DoubleLimb{a[i]} + b[i] + carry;
-        out[i] = static_cast<Limb>(sum);
-        carry = static_cast<Limb>(sum >> bitsPerLimb);
-    }
-    return carry;
-}
-
 Limb addLimb(Limb* out, Limb const* a, std::size_t count, Limb carry) noexcept {
     for (std::size_t i = 0; i < count; ++i) {
         Limb const sum = a[i] + carry;
@@ -20,16 +10,6 @@ Limb addLimb(Limb* out, Limb const* a, std::size_t count, Limb carry) noexcept {
         out[i] = sum;
     }
     return carry;
-}
-
-Limb subtract(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept {
-    Limb borrow = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        DoubleLimb const difference = DoubleLimb{a[i]} - b[i] - borrow;
-        out[i] = static_cast<Limb>(difference);
-        borrow = static_cast<Limb>(difference >> bitsPerLimb) & 1;
-    }
-    return borrow;
 }
 
 Limb subtractLimb(Limb* out, Limb const* a, std::size_t count, Limb borrow) noexcept {

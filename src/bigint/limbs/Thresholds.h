@@ -6,8 +6,11 @@
 
 namespace qel::limbs {
 
-inline constexpr std::size_t karatsubaMultiply = 28;
-inline constexpr std::size_t karatsubaSquare = 44;
+/// From these lengths on, products are taken by halves and by thirds.
+inline constexpr std::size_t halvesMultiply = 24;
+inline constexpr std::size_t halvesSquare = 44;
+inline constexpr std::size_t thirdsMultiply = 120;
+inline constexpr std::size_t thirdsSquare = 150;
 /// From this length of the shorter operand on, products are taken by transforms.
 inline constexpr std::size_t transformMultiply = 640;
 inline constexpr std::size_t transformSquare = 640;
