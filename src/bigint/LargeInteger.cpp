@@ -67,8 +67,10 @@ LargeInteger::LargeInteger(LargeInteger&& source) noexcept : LargeInteger() {
 
 // A tight value, as a copy would be.
 LargeInteger::LargeInteger(std::uint64_t const* limbs, int top, bool flag) noexcept
-    : data(zeroedBuffer(tightSize(top))), size(tightSize(top)), highestBit(top), negative(flag) {
+    : data(checkedBuffer<std::uint32_t>(std::malloc(bytesFor(tightSize(top))))),
+      size(tightSize(top)), highestBit(top), negative(flag) {
     storeWords(data, limbs, top);
+    std::fill(data + wordIndex(top) + 1, data + size + 1, 0U);
 }
 
 LargeInteger::~LargeInteger() noexcept {

@@ -56,9 +56,10 @@ inline std::size_t limbCount(long long top) noexcept {
 inline void loadLimbs(limbs::Limb* out, std::size_t count, std::uint32_t const* words,
                       int top) noexcept {
     static_assert(std::endian::native == std::endian::little);
-    std::size_t const bytes = static_cast<std::size_t>(wordIndex(top) + 1) * sizeof *words;
-    std::memcpy(out, words, bytes);
-    std::memset(reinterpret_cast<unsigned char*>(out) + bytes, 0, count * sizeof *out - bytes);
+    std::size_t const wordCount = static_cast<std::size_t>(wordIndex(top) + 1);
+    for (std::size_t i = wordCount / 2; i < count; ++i)
+        out[i] = 0;
+    std::memcpy(out, words, wordCount * sizeof *words);
 }
 
 inline void storeWords(std::uint32_t* words, limbs::Limb const* in, int top) noexcept {

@@ -1,23 +1,32 @@
 // Work that is linear in the limbs: sums, differences, comparison, shifts.
 #include "Limbs.h"
 
+#include <algorithm>
+
 namespace qel::limbs {
 
+// A carry seldom goes far.
 Limb addLimb(Limb* out, Limb const* a, std::size_t count, Limb carry) noexcept {
-    for (std::size_t i = 0; i < count; ++i) {
+    std::size_t i = 0;
+    for (; i < count && carry != 0; ++i) {
         Limb const sum = a[i] + carry;
         carry = sum < carry ? 1 : 0;
         out[i] = sum;
     }
+    if (out != a)
+        std::copy(a + i, a + count, out + i);
     return carry;
 }
 
 Limb subtractLimb(Limb* out, Limb const* a, std::size_t count, Limb borrow) noexcept {
-    for (std::size_t i = 0; i < count; ++i) {
+    std::size_t i = 0;
+    for (; i < count && borrow != 0; ++i) {
         Limb const limb = a[i];
         out[i] = limb - borrow;
         borrow = limb < borrow ? 1 : 0;
     }
+    if (out != a)
+        std::copy(a + i, a + count, out + i);
     return borrow;
 }
 

@@ -8,9 +8,9 @@ namespace qel::limbs {
 
 /// From these lengths on, products are taken by halves and by thirds.
 inline constexpr std::size_t halvesMultiply = 24;
-inline constexpr std::size_t halvesSquare = 44;
-inline constexpr std::size_t thirdsMultiply = 120;
-inline constexpr std::size_t thirdsSquare = 150;
+inline constexpr std::size_t halvesSquare = 48;
+inline constexpr std::size_t thirdsMultiply = 144;
+inline constexpr std::size_t thirdsSquare = 232;
 /// From this length of the shorter operand on, products are taken by transforms.
 inline constexpr std::size_t transformMultiply = 640;
 inline constexpr std::size_t transformSquare = 640;
