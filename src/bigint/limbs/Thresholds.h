@@ -12,8 +12,8 @@ inline constexpr std::size_t halvesSquare = 48;
 inline constexpr std::size_t thirdsMultiply = 144;
 inline constexpr std::size_t thirdsSquare = 232;
 /// From this length of the shorter operand on, products are taken by transforms.
-inline constexpr std::size_t transformMultiply = 640;
-inline constexpr std::size_t transformSquare = 640;
+inline constexpr std::size_t transformMultiply = 3400;
+inline constexpr std::size_t transformSquare = 3400;
 
 /// Quotients of fewer limbs are taken digit by digit. At least 2.
 inline constexpr std::size_t divideSplit = 48;
