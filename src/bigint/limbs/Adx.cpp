@@ -126,16 +126,23 @@ void squareRowsAdx(Limb* out, Limb const* a, std::size_t count) noexcept {
     adx::doubleAndAddSquares(out, a, count);
 }
 
-// Montgomery's reduction, as the portable one.
+/// The carries of a reduction's rows, left in the lower half of t, added to the upper half, and the
+/// modulus subtracted where it fits.
+[[gnu::noinline]] void finishReduction(Limb* out, Limb const* t, Limb const* modulus,
+                                       std::size_t count) noexcept {
+    Limb const carry = sumOf<Sum::plus>(out, t + count, t, count);
+    if (carry != 0 || compare(out, modulus, count) >= 0)
+        sumOf<Sum::minus>(out, out, modulus, count);
+}
+
+// As the portable one.
 template <std::size_t kind>
 struct Reduce {
     static void call(Limb* out, Limb* t, Limb const* modulus, std::size_t count,
                      Limb negatedInverse) noexcept {
         for (std::size_t i = 0; i < count; ++i)
             t[i] = rowOf<kind>(t + i, modulus, count, t[i] * negatedInverse);
-        Limb const carry = sumOf<Sum::plus>(out, t + count, t, count);
-        if (carry != 0 || compare(out, modulus, count) >= 0)
-            sumOf<Sum::minus>(out, out, modulus, count);
+        finishReduction(out, t, modulus, count);
     }
 };
 
