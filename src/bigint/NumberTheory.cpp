@@ -12,6 +12,42 @@
 
 namespace qel {
 
+namespace {
+
+/// The 64 bits from the highest set bit `top` of a down, with zeros below where there are fewer.
+limbs::Limb leadingLimb(limbs::Limb const* a, long long top) noexcept {
+    std::size_t const i = limbCount(top) - 1;
+    int const shift = std::countl_zero(a[i]);
+    limbs::Limb const below = i == 0 || shift == 0 ? 0 : a[i - 1] >> (limbs::bitsPerLimb - shift);
+    return (a[i] << shift) | below;
+}
+
+/// The highest set bit of x * y + 1; neither is zero.
+///
+/// It is the sum of theirs or one more, which the leading limbs tell nearly always. With
+/// X 2^a <= x < (X + 1) 2^a, and Y 2^b likewise, x y + 1 is below (X + 1) (Y + 1) 2^(a + b) once x
+/// or y has 64 bits; for then, say, x + 1 <= (X + 1) 2^a.
+long long topOfProductAndOne(limbs::Limb const* x, limbs::Limb const* y,
+                             std::size_t count) noexcept {
+    long long const xTop = topBit(x, count);
+    long long const yTop = topBit(y, count);
+    limbs::DoubleLimb const leadingX = leadingLimb(x, xTop);
+    limbs::DoubleLimb const leadingY = leadingLimb(y, yTop);
+    constexpr limbs::DoubleLimb half = limbs::DoubleLimb{1} << 127;
+    if (leadingX * leadingY >= half)
+        return xTop + yTop + 1;
+    if (std::max(xTop, yTop) >= limbs::bitsPerLimb - 1
+        && leadingX * leadingY + leadingX + leadingY < half)
+        return xTop + yTop;
+    Workspace workspace(2 * count + limbs::multiplyScratch(count, count));
+    limbs::Limb* const product = workspace.take(2 * count);
+    limbs::multiply(product, x, count, y, count, workspace.take(0));
+    limbs::addLimb(product, product, 2 * count, 1);
+    return topBit(product, 2 * count);
+}
+
+}  // namespace
+
 LargeInteger LargeInteger::simpleGCD(LargeInteger* a, LargeInteger* b) noexcept {
     assert((a->isZero() || (!b->isZero() && a->isNegative() == b->isNegative()))
            && "simpleGCD: b must not be zero, and no operand negative");
@@ -119,22 +155,31 @@ void LargeInteger::inverseModulo(LargeInteger const& m) noexcept {
 /// whichever is smaller in size. A negative t makes d positive, which then keeps its own bound; a
 /// positive t makes d negative, and adding m leaves the bound of m.
 bool LargeInteger::invert(LargeInteger const& m) noexcept {
+    int const top = getHighestBit();
     int const mTop = m.getHighestBit();
     std::size_t const count = limbCount(mTop);
     Workspace workspace(3 * count + limbs::inverseScratch(count));
     limbs::Limb* const v = workspace.take(count);
     limbs::Limb* const modulus = workspace.take(count);
     limbs::Limb* const out = workspace.take(count);
-    loadLimbs(v, count, data, getHighestBit());
+    loadLimbs(v, count, data, top);
     loadLimbs(modulus, count, m.data, mTop);
     if (!limbs::inverse(out, v, modulus, count, workspace.take(0)))
         return false;
-    LargeInteger const result(out, static_cast<int>(topBit(out, count)), false);
-    if ((result << 1) < m)
-        *this = m;
-    else
-        *this = (m - result) * (*this - LargeInteger(1)) + LargeInteger(1);
-    overwrite(highestBit, out, result.highestBit);
+    // Both operands are used up; i - m takes the place of the modulus.
+    loadLimbs(modulus, count, m.data, mTop);
+    limbs::subtract(modulus, modulus, out, count);
+    int bound = mTop;
+    if (limbs::compare(out, modulus, count) > 0) {
+        loadLimbs(v, count, data, top);
+        v[0] -= 1;  // v is odd
+        bound = checkedPosition(topOfProductAndOne(modulus, v, count));
+    }
+    std::free(data);
+    size = tightSize(bound);
+    data = zeroedBuffer(size);
+    storeWords(data, out, static_cast<int>(topBit(out, count)));
+    highestBit = bound;
     return true;
 }
 

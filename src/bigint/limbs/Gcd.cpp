@@ -193,7 +193,6 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
     Limb* const quotient = scratch;
     Limb* const dividend = scratch + aCount + 1;
     Limb* const divisor = dividend + aCount + 1;
-    Limb* const product = divisor + count;
     if (count == 1) {
         larger.number[0] = divideLimb(quotient, larger.number, aCount, smaller.number[0]);
         std::fill(larger.number + 1, larger.number + aCount, Limb{0});
@@ -215,20 +214,54 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
     }
     if (larger.cofactor == nullptr)
         return;
-    // The sum is again the size of a cofactor, which is at most m: what stands above is zero.
+    // The sum is again the size of a cofactor, which is at most m: what stands above is zero. Long
+    // quotients are so rare that rows will do.
     std::size_t const quotientCount = significant(quotient, aCount + 1 - count);
     std::size_t const other = significant(smaller.cofactor, cofactorCount);
-    if (quotientCount == 0 || other == 0)
-        return;
-    bool const quotientIsLonger = quotientCount >= other;
-    multiply(product, quotientIsLonger ? quotient : smaller.cofactor,
-             std::max(quotientCount, other), quotientIsLonger ? smaller.cofactor : quotient,
-             std::min(quotientCount, other), product + quotientCount + other);
-    std::size_t const productCount = significant(product, quotientCount + other);
-    Limb const carry = add(larger.cofactor, larger.cofactor, product, productCount);
-    if (productCount < cofactorCount)
-        addLimb(larger.cofactor + productCount, larger.cofactor + productCount,
-                cofactorCount - productCount, carry);
+    for (std::size_t i = 0; i < quotientCount; ++i) {
+        Limb* const above = larger.cofactor + i + other;
+        Limb const carry = addMultiply(larger.cofactor + i, smaller.cofactor, other, quotient[i]);
+        addLimb(above, above, cofactorCount - i - other, carry);
+    }
+}
+
+/// k and j with k r + 1 = j v and 0 < k < v, for r < v; k = 0 where r and v have a common factor.
+struct Cofactors {
+    Limb k;
+    Limb j;
+};
+
+/// Euclid on (v, r), whose remainders are, with changing signs, s v - t r and t r - s v.
+Cofactors cofactorsOfLimbs(Limb v, Limb r) noexcept {
+    Limb larger = v;
+    Limb smaller = r;
+    Limb s = 1;
+    Limb t = 0;
+    Limb nextS = 0;
+    Limb nextT = 1;
+    bool negative = true;  // whether `smaller` is t r - s v
+    while (smaller > 1) {
+        Limb const quotient = larger / smaller;
+        larger = std::exchange(smaller, larger - quotient * smaller);
+        s = std::exchange(nextS, s + quotient * nextS);
+        t = std::exchange(nextT, t + quotient * nextT);
+        negative = !negative;
+    }
+    if (smaller == 0)
+        return {0, 0};
+    return negative ? Cofactors{v - nextT, r - nextS} : Cofactors{nextT, nextS};
+}
+
+/// With m = q v + r and k r + 1 = j v the inverse of v is (k m + 1) / v = k q + j, which is below m
+/// as k is below v.
+bool inverseOfLimb(Limb* out, Limb v, Limb const* m, std::size_t count) noexcept {
+    Limb const rest = divideLimb(out, m, count, v);
+    Cofactors const cofactors = cofactorsOfLimbs(v, rest);
+    if (cofactors.k == 0)
+        return false;
+    multiplyLimb(out, out, count, cofactors.k);
+    addLimb(out, out, count, cofactors.j);
+    return true;
 }
 
 }  // namespace
@@ -245,14 +278,14 @@ void gcd(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noexcept
     std::fill(out + rest.count, out + count, Limb{0});
 }
 
-// Both cofactors with a limb to spare, the modulus, and a division step with the product of its
-// quotient and a cofactor.
+// Both cofactors with a limb to spare, the modulus, and a division step.
 std::size_t inverseScratch(std::size_t count) noexcept {
-    return 3 * count + 2 + gcdScratch(count) + 2 * count + 2 + multiplyScratch(count + 1, count + 1)
-           + 8 * (count + 1);
+    return 3 * count + 2 + gcdScratch(count);
 }
 
 bool inverse(Limb* out, Limb* v, Limb* m, std::size_t count, Limb* scratch) noexcept {
+    if (significant(v, count) == 1)
+        return inverseOfLimb(out, v[0], m, count);
     std::size_t const cofactorCount = count + 1;
     Limb* const ofM = scratch;
     Limb* const ofV = scratch + cofactorCount;
