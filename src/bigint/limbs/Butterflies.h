@@ -18,8 +18,11 @@ class Transform {
   public:
     using F = Field<which>;
 
+    /// With a table of as many entries as the longest transform has nodes.
+    explicit Transform(Factor const* table) noexcept : w(table) {}
+
     /// `count` entries, a power of two.
-    Transform(Factor* table, std::size_t count) noexcept : w(table) {
+    static void fill(Factor* table, std::size_t count) noexcept {
         table[0] = F::factor(1);
         int log = 0;
         for (std::size_t block = 1; block < count; block *= 2, ++log) {

@@ -1,6 +1,8 @@
 // Long quotients by halves (Burnikel and Ziegler, "Fast recursive division", 1998): the upper part
 // of the divisor gives the quotient's digits, a fast product takes the lower part into account.
-#include "Limbs.h"
+#include "DivideByHalves.h"
+
+#include "DivideByReciprocal.h"
 #include "Thresholds.h"
 
 #include <algorithm>
@@ -71,16 +73,12 @@ void divideBlock(Limb* quotient, Limb* a, Limb const* divisor, std::size_t count
 // A product of `count` limbs and its needs: with b <= count / 2 limbs in the shorter factor these
 // are 12b for slices, and 4b + 256 by Karatsuba's method or at most (4 + 4/3) * 3/2 points for each
 // of 64/80 count + 4 coefficients: together below 13 count + 256.
-std::size_t divideScratch(std::size_t count) noexcept {
-    return count < divideSplit ? 0 : 14 * count + 256;
+std::size_t divideByHalvesScratch(std::size_t count) noexcept {
+    return 14 * count + 256;
 }
 
-void divide(Limb* quotient, Limb* a, std::size_t aCount, Limb const* divisor, std::size_t count,
-            Limb* scratch) noexcept {
-    if (count < divideSplit) {
-        divideNormalized(quotient, a, aCount, divisor, count);
-        return;
-    }
+void divideByHalves(Limb* quotient, Limb* a, std::size_t aCount, Limb const* divisor,
+                    std::size_t count, Limb* scratch) noexcept {
     std::size_t done = aCount - count;
     if (std::size_t const first = done % count; first != 0) {
         done -= first;
@@ -90,6 +88,24 @@ void divide(Limb* quotient, Limb* a, std::size_t aCount, Limb const* divisor, st
         done -= count;
         divideBlock(quotient + done, a + done, divisor, count, count, scratch);
     }
+}
+
+std::size_t divideScratch(std::size_t count) noexcept {
+    if (count < divideSplit)
+        return 0;
+    std::size_t const byHalves = divideByHalvesScratch(count);
+    return count < divideReciprocal ? byHalves
+                                    : std::max(byHalves, divideByReciprocalScratch(count));
+}
+
+void divide(Limb* quotient, Limb* a, std::size_t aCount, Limb const* divisor, std::size_t count,
+            Limb* scratch) noexcept {
+    if (count < divideSplit)
+        divideNormalized(quotient, a, aCount, divisor, count);
+    else if (std::min(aCount - count, count) < divideReciprocal)
+        divideByHalves(quotient, a, aCount, divisor, count, scratch);
+    else
+        divideByReciprocal(quotient, a, aCount, divisor, count, scratch);
 }
 
 }  // namespace qel::limbs

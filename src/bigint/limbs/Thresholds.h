@@ -17,6 +17,11 @@ inline constexpr std::size_t transformSquare = 3400;
 
 /// Quotients of fewer limbs are taken digit by digit. At least 2.
 inline constexpr std::size_t divideSplit = 48;
+/// From so many digits and limbs of the divisor on, quotients are taken by a reciprocal.
+inline constexpr std::size_t divideReciprocal = 2000;
+/// Reciprocals of so many limbs are refined by Newton's iteration; shorter ones are quotients.
+/// At least 3, and at most divideReciprocal.
+inline constexpr std::size_t reciprocalNewton = 900;
 
 /// Decimal text of more groups of 19 digits than this is split. At least 6.
 inline constexpr std::size_t decimalOutSplit = 32;

@@ -13,39 +13,30 @@ namespace qel::limbs {
 
 namespace {
 
-/// How a product is cut: coefficients of `bits` bits, `aCount` and `bCount` of them, and `size`
-/// points, a power of two or three times one.
-struct Plan {
-    int bits;
-    std::size_t aCount;
-    std::size_t bCount;
-    std::size_t size;
-
-    [[nodiscard]] bool whole() const noexcept { return std::has_single_bit(size); }
-    /// What the values come out multiplied by.
-    [[nodiscard]] std::size_t scale() const noexcept { return whole() ? size : size / 3 * 4; }
-    /// The nodes of the last level; of node 2 the lower half of a block, whose inverses are in the
-    /// upper half.
-    [[nodiscard]] std::size_t factors() const noexcept { return whole() ? size / 2 : size / 3 * 2; }
-};
-
 std::size_t pieces(std::size_t count, int bits) noexcept {
     return (count * bitsPerLimb - 1) / static_cast<std::size_t>(bits) + 1;
 }
 
 /// A coefficient of the product is below n 2^(2 bits) for the shorter operand's n, and must be
 /// below the product of the primes, which is above 2^186 / (1 + 2^-20).
-Plan makePlan(std::size_t aCount, std::size_t bCount) noexcept {
-    int bits = 86;
+bool fits(std::size_t n, int bits) noexcept {
+    return n * 1025 / 1024 + 1 < std::size_t{1} << (186 - 2 * bits);
+}
+
+/// The bits of a coefficient where that leaves room for the sums.
+constexpr int mostBits = 86;
+
+Shape makeShape(std::size_t aCount, std::size_t bCount) noexcept {
+    int bits = mostBits;
     std::size_t const shorter = std::min(aCount, bCount);
-    while (pieces(shorter, bits) * 1025 / 1024 + 1 >= std::size_t{1} << (186 - 2 * bits))
+    while (!fits(pieces(shorter, bits), bits))
         --bits;
-    Plan plan{bits, pieces(aCount, bits), pieces(bCount, bits), 0};
-    std::size_t const least = std::max<std::size_t>(plan.aCount + plan.bCount, 16);
-    plan.size = std::bit_ceil(least);
-    if (plan.size / 4 * 3 >= least)
-        plan.size = plan.size / 4 * 3;
-    return plan;
+    std::size_t const least =
+        std::max<std::size_t>(pieces(aCount, bits) + pieces(bCount, bits), 16);
+    std::size_t size = std::bit_ceil(least);
+    if (size / 4 * 3 >= least)
+        size = size / 4 * 3;
+    return {bits, size, aCount + bCount};
 }
 
 /// Coefficient j of a: bits [bits * j, bits * (j + 1)), for bits between 64 and 127.
@@ -63,11 +54,11 @@ DoubleLimb coefficient(Limb const* a, std::size_t count, std::size_t j, int bits
 }
 
 template <int which>
-void load(Limb* x, std::size_t size, Limb const* a, std::size_t count, std::size_t coefficients,
-          int bits) noexcept {
+void load(Limb* x, Shape const& shape, Limb const* a, std::size_t count) noexcept {
+    std::size_t const coefficients = pieces(count, shape.bits);
     for (std::size_t j = 0; j < coefficients; ++j)
-        x[j] = Field<which>::shrink(coefficient(a, count, j, bits));
-    std::fill(x + coefficients, x + size, Limb{0});
+        x[j] = Field<which>::shrink(coefficient(a, count, j, shape.bits));
+    std::fill(x + coefficients, x + shape.size, Limb{0});
 }
 
 /// Of 3m points, f0 + f1 y + f2 y^2 with y = x^m, the first 2m become f modulo y^2 - 1 and the
@@ -100,41 +91,34 @@ void mend(Limb* x, std::size_t m, Factor i) noexcept {
     }
 }
 
+/// x = the image of a modulo the prime.
 template <int which>
-void transform(Transform<which> const& engine, Limb* x, Plan const& plan) noexcept {
-    if (plan.whole()) {
-        engine.forward(x, plan.size, 0);
+void transform(Transform<which> const& engine, Limb* x, Shape const& shape, Limb const* a,
+               std::size_t count) noexcept {
+    load<which>(x, shape, a, count);
+    if (shape.whole()) {
+        engine.forward(x, shape.size, 0);
         return;
     }
-    std::size_t const m = plan.size / 3;
+    std::size_t const m = shape.size / 3;
     cut<which>(x, m, engine.i());
     engine.forward(x, 2 * m, 0);
     engine.forward(x + 2 * m, m, 2);
 }
 
-/// x = the coefficients of the product modulo the prime, fully reduced.
+/// x, of an image as y, becomes the coefficients of the product modulo the prime, fully reduced.
 template <int which>
-void convolve(Limb* x, Limb* y, Limb* tableMemory, Plan const& plan, Limb const* a,
-              std::size_t aCount, Limb const* b, std::size_t bCount) noexcept {
+void convolve(Transform<which> const& engine, Limb* x, Limb const* y, Shape const& shape) noexcept {
     using F = Field<which>;
-    Transform<which> const engine(reinterpret_cast<Factor*>(tableMemory), plan.factors());
-    load<which>(x, plan.size, a, aCount, plan.aCount, plan.bits);
-    transform(engine, x, plan);
-    if (a == b && aCount == bCount) {
-        y = x;
-    } else {
-        load<which>(y, plan.size, b, bCount, plan.bCount, plan.bits);
-        transform(engine, y, plan);
-    }
-    for (std::size_t j = 0; j < plan.size; ++j) {
+    for (std::size_t j = 0; j < shape.size; ++j) {
         Limb const left = F::reduce(x[j], 2 * F::p);
         Limb const right = F::reduce(y[j], 2 * F::p);
         x[j] = F::shrink(DoubleLimb{left} * right);
     }
-    if (plan.whole()) {
-        engine.backward(x, plan.size, 0);
+    if (shape.whole()) {
+        engine.backward(x, shape.size, 0);
     } else {
-        std::size_t const m = plan.size / 3;
+        std::size_t const m = shape.size / 3;
         engine.backward(x, 2 * m, 0);
         engine.backward(x + 2 * m, m, 2);
         mend<which>(x, m, engine.i());
@@ -142,9 +126,24 @@ void convolve(Limb* x, Limb* y, Limb* tableMemory, Plan const& plan, Limb const*
     // Three times 2^64 was divided out: by each operand's load, and by the products.
     Limb const shrunk = F::power(2, 3 * bitsPerLimb);
     Factor const last =
-        F::factor(F::product(shrunk, F::inverse(static_cast<Limb>(plan.scale())).value));
-    for (std::size_t j = 0; j < plan.aCount + plan.bCount; ++j)
+        F::factor(F::product(shrunk, F::inverse(static_cast<Limb>(shape.scale())).value));
+    for (std::size_t j = 0; j < shape.coefficients(); ++j)
         x[j] = F::reduce(F::multiply(x[j], last), F::p);
+}
+
+/// As multiplyByTransform, modulo the prime: x = the coefficients of a * b.
+template <int which>
+void multiplyModulo(Limb* x, Limb* y, Limb* tableMemory, Shape const& shape, Limb const* a,
+                    std::size_t aCount, Limb const* b, std::size_t bCount) noexcept {
+    Factor* const table = reinterpret_cast<Factor*>(tableMemory);
+    Transform<which>::fill(table, shape.nodes());
+    Transform<which> const engine(table);
+    transform(engine, x, shape, a, aCount);
+    if (a == b && aCount == bCount)
+        y = x;
+    else
+        transform(engine, y, shape, b, bCount);
+    convolve(engine, x, y, shape);
 }
 
 /// A sum that moves up the limbs of a result.
@@ -169,9 +168,18 @@ class Accumulator {
         }
     }
 
+    /// What is left above the limbs stays in the sum.
     void finish() noexcept {
         while (done < count)
             emit();
+    }
+
+    /// Adds it at the bottom, as 2^(64 count) = 1: once more where that carries, which leaves
+    /// zeros.
+    void wrapAround() noexcept {
+        Limb carry = qel::limbs::add(out, out, sum.data(), sum.size());
+        carry = addLimb(out + sum.size(), out + sum.size(), count - sum.size(), carry);
+        addLimb(out, out, count, carry);
     }
 
   private:
@@ -189,8 +197,7 @@ class Accumulator {
 };
 
 /// out = the sum of the coefficients, each known modulo the three primes, at their positions.
-void recombine(Limb* out, std::size_t count, Limb const* r0, Limb const* r1, Limb const* r2,
-               Plan const& plan) noexcept {
+void recombine(Limb* out, Shape const& shape, Limb const* r0) noexcept {
     using F1 = Field<1>;
     using F2 = Field<2>;
     constexpr Limb p0 = primes[0].p;
@@ -199,8 +206,10 @@ void recombine(Limb* out, std::size_t count, Limb const* r0, Limb const* r1, Lim
     constexpr Factor inverse02 = F2::inverse(p0);
     constexpr Factor inverse12 = F2::inverse(p1);
     constexpr DoubleLimb both = DoubleLimb{p0} * p1;
-    Accumulator sum(out, count);
-    for (std::size_t j = 0; j < plan.aCount + plan.bCount; ++j) {
+    Limb const* const r1 = r0 + shape.size;
+    Limb const* const r2 = r1 + shape.size;
+    Accumulator sum(out, shape.length);
+    for (std::size_t j = 0; j < shape.coefficients(); ++j) {
         // d0 + p0 (d1 + p1 d2), with p0 > p1 > p2 and p0 < 2 p2.
         Limb const d0 = r0[j];
         Limb const d1 = F1::reduce(F1::multiply(r1[j] + 2 * F1::p - d0, inverse01), F1::p);
@@ -212,28 +221,86 @@ void recombine(Limb* out, std::size_t count, Limb const* r0, Limb const* r1, Lim
         DoubleLimb const first = DoubleLimb{static_cast<Limb>(low)} + static_cast<Limb>(small);
         DoubleLimb const rest = middle + upperLimb(low) + upperLimb(small) + upperLimb(first);
         Limb const value[3] = {static_cast<Limb>(first), static_cast<Limb>(rest), upperLimb(rest)};
-        sum.add(value, j * static_cast<std::size_t>(plan.bits));
+        sum.add(value, j * static_cast<std::size_t>(shape.bits));
     }
     sum.finish();
+    if (shape.cyclic())
+        sum.wrapAround();
 }
 
 }  // namespace
 
 // A transform for each prime, one for the other operand, and the table.
 std::size_t transformScratch(std::size_t aCount, std::size_t bCount) noexcept {
-    Plan const plan = makePlan(aCount, bCount);
-    return 4 * plan.size + 2 * plan.factors();
+    Shape const shape = makeShape(aCount, bCount);
+    return 4 * shape.size + 2 * shape.nodes();
 }
 
 void multiplyByTransform(Limb* out, Limb const* a, std::size_t aCount, Limb const* b,
                          std::size_t bCount, Limb* scratch) noexcept {
-    Plan const plan = makePlan(aCount, bCount);
-    Limb* const other = scratch + 3 * plan.size;
-    Limb* const table = scratch + 4 * plan.size;
-    convolve<0>(scratch, other, table, plan, a, aCount, b, bCount);
-    convolve<1>(scratch + plan.size, other, table, plan, a, aCount, b, bCount);
-    convolve<2>(scratch + 2 * plan.size, other, table, plan, a, aCount, b, bCount);
-    recombine(out, aCount + bCount, scratch, scratch + plan.size, scratch + 2 * plan.size, plan);
+    Shape const shape = makeShape(aCount, bCount);
+    Limb* const other = scratch + 3 * shape.size;
+    Limb* const table = scratch + 4 * shape.size;
+    multiplyModulo<0>(scratch, other, table, shape, a, aCount, b, bCount);
+    multiplyModulo<1>(scratch + shape.size, other, table, shape, a, aCount, b, bCount);
+    multiplyModulo<2>(scratch + 2 * shape.size, other, table, shape, a, aCount, b, bCount);
+    recombine(out, shape, scratch);
+}
+
+bool Shape::whole() const noexcept {
+    return std::has_single_bit(size);
+}
+
+bool Shape::cyclic() const noexcept {
+    return size * static_cast<std::size_t>(bits) == length * bitsPerLimb;
+}
+
+// The product has no bits at or above those of its limbs.
+std::size_t Shape::coefficients() const noexcept {
+    return std::min(size, pieces(length, bits));
+}
+
+Shape productShape(std::size_t count) noexcept {
+    return makeShape(count, count);
+}
+
+// Of 64 points or more every number of bits makes whole limbs.
+Shape cyclicShape(std::size_t least) noexcept {
+    for (std::size_t size = 64;; size *= 2) {
+        int bits = mostBits;
+        while (!fits(size, bits))
+            --bits;
+        std::size_t const length = size / bitsPerLimb * static_cast<std::size_t>(bits);
+        if (length >= least)
+            return {bits, size, length};
+    }
+}
+
+TransformTables::TransformTables(Limb* limbs, std::size_t count) noexcept
+    : memory(limbs), nodes(count) {
+    Transform<0>::fill(table(0), nodes);
+    Transform<1>::fill(table(1), nodes);
+    Transform<2>::fill(table(2), nodes);
+}
+
+Factor* TransformTables::table(std::size_t which) const noexcept {
+    return reinterpret_cast<Factor*>(memory) + which * nodes;
+}
+
+void TransformTables::take(Limb* image, Shape const& shape, Limb const* a,
+                           std::size_t count) const noexcept {
+    transform(Transform<0>(table(0)), image, shape, a, count);
+    transform(Transform<1>(table(1)), image + shape.size, shape, a, count);
+    transform(Transform<2>(table(2)), image + 2 * shape.size, shape, a, count);
+}
+
+void TransformTables::multiply(Limb* out, Shape const& shape, Limb* image,
+                               Limb const* other) const noexcept {
+    std::size_t const size = shape.size;
+    convolve(Transform<0>(table(0)), image, other, shape);
+    convolve(Transform<1>(table(1)), image + size, other + size, shape);
+    convolve(Transform<2>(table(2)), image + 2 * size, other + 2 * size, shape);
+    recombine(out, shape, image);
 }
 
 }  // namespace qel::limbs
