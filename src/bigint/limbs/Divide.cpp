@@ -3,6 +3,7 @@
 #include "Kernels.h"
 #include "Reciprocal.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace qel::limbs {
@@ -38,16 +39,29 @@ Limb divideThreeByTwo(Limb u2, Limb u1, Limb u0, DoubleLimb d, Limb inverse,
     Limb quotient = high(estimate);
     Limb const r1 = u1 - quotient * high(d);
     rest = join(r1, u0) - DoubleLimb{low(d)} * quotient - d;
-    ++quotient;
-    if (high(rest) >= low(estimate)) {
-        --quotient;
-        rest += d;
-    }
+    // One too large as often as not: no branch.
+    Limb const mask = high(rest) >= low(estimate) ? ~Limb{0} : 0;
+    quotient += mask + 1;
+    rest += join(high(d) & mask, low(d) & mask);
     if (rest >= d) {
         ++quotient;
         rest -= d;
     }
     return quotient;
+}
+
+void complement(Limb* a, std::size_t count) noexcept {
+    for (std::size_t i = 0; i < count; ++i)
+        a[i] = ~a[i];
+}
+
+void storePair(Limb* a, DoubleLimb pair) noexcept {
+    a[0] = ~low(pair);
+    a[1] = ~high(pair);
+}
+
+DoubleLimb loadPair(Limb const* a) noexcept {
+    return join(~a[1], ~a[0]);
 }
 
 }  // namespace
@@ -67,43 +81,43 @@ Limb divideLimb(Limb* quotient, Limb const* a, std::size_t count, Limb divisor) 
 }
 
 // The partial remainder is kept complemented, since ~(~u + q d) = u - q d: its rows then are
-// additions, which have the faster kernel. A carry out of them is the borrow.
+// additions, which have the faster kernel. A carry out of them is the borrow. Its top two limbs are
+// kept in `top` between digits.
 void divideNormalized(Limb* quotient, Limb* a, std::size_t aCount, Limb const* divisor,
                       std::size_t count) noexcept {
     auto const addRow = kernels().addMultiply;
     DoubleLimb const d = join(divisor[count - 1], divisor[count - 2]);
     Limb const inverse = reciprocalOfTwo(high(d), low(d));
-    for (std::size_t i = 0; i < aCount; ++i)
-        a[i] = ~a[i];
+    complement(a, aCount);
+    DoubleLimb top = loadPair(a + aCount - 2);
     for (std::size_t j = aCount - count; j-- > 0;) {
-        // D3: the digit from the top three limbs u2:u1:u0 at j + count.
+        // D3: the digit from `top` and the limb below, u[count - 2].
         Limb* const u = a + j;
-        Limb const u2 = ~u[count];
-        Limb const u1 = ~u[count - 1];
         Limb digit = ~Limb{0};
-        if (join(u2, u1) >= d) {
-            // u2:u1 = d, and the digit is 2^64 - 1: the quotient is above
+        if (top >= d) {
+            // They are equal, and the digit is 2^64 - 1: the quotient is above
             // 2^64 d / (d + 1) >= 2^64 - 1, as d + 1 > 2^64.
+            storePair(u + count - 1, top);
             addRow(u, divisor, count, digit);
+            top = loadPair(u + count - 2);
         } else {
-            DoubleLimb rest = 0;
-            digit = divideThreeByTwo(u2, u1, ~u[count - 2], d, inverse, rest);
+            digit = divideThreeByTwo(high(top), low(top), ~u[count - 2], d, inverse, top);
             // D4 on the lower limbs; the top two are known but for the borrow from below.
             Limb const borrow = count == 2 ? 0 : addRow(u, divisor, count - 2, digit);
-            bool const tooLarge = rest < borrow;
-            rest -= borrow;
-            u[count - 1] = ~high(rest);
-            u[count - 2] = ~low(rest);
+            bool const tooLarge = top < borrow;
+            top -= borrow;
             if (tooLarge) {
+                storePair(u + count - 2, top);
                 subtract(u, u, divisor, count);
+                top = loadPair(u + count - 2);
                 --digit;
             }
         }
-        u[count] = ~Limb{0};
         quotient[j] = digit;
     }
-    for (std::size_t i = 0; i < aCount; ++i)
-        a[i] = ~a[i];
+    storePair(a + count - 2, top);
+    complement(a, count);
+    std::fill(a + count, a + aCount, Limb{0});
 }
 
 }  // namespace qel::limbs
