@@ -1,6 +1,8 @@
 // Greatest common divisor, modular inverse, modular power.
 #include "LargeIntegerPeer.h"
 
+#include "model/PlainInteger.h"
+
 #include <gtest/gtest.h>
 
 #include <numeric>
@@ -157,6 +159,48 @@ TEST(Inverse, OfAWideModulus) {
     LargeInteger const m = hex("f0000000000000000000000000000000000000000000000000000000000000a2");
     LargeInteger const e(65537);
     EXPECT_EQ(inverse(e, m) * e % m, LargeInteger(1));
+}
+
+/// Compares the inverse with the plain steps', and all books.
+void expectPlainInverse(LargeInteger const& value, LargeInteger const& m) {
+    LargeInteger fast(value);
+    fast.inverseModulo(m);
+    plain::LargeInteger slow;
+    plain::LargeInteger modulus;
+    slow.parseString(value.toString(16), 16);
+    modulus.parseString(m.toString(16), 16);
+    slow.inverseModulo(modulus);
+    EXPECT_EQ(fast.toString(16), slow.toString(16)) << value.toString(16) << " " << m.toString(16);
+    EXPECT_EQ(books(fast), (Books{slow.size, slow.highestBit, slow.negative}))
+        << value.toString(16) << " " << m.toString(16);
+}
+
+// With m = (2^j - 1) (2^k + 1) + 1 the inverse of 2^k + 1 is m - (2^j - 1), and the bound is that
+// of (2^j - 1) 2^k + 1, just below a power of two: its leading 128 bits are too few to tell.
+TEST(Inverse, LeavesTheBoundOfAProductJustBelowAPowerOfTwo) {
+    for (int j : {1, 2, 31, 62, 63, 64, 65, 66, 127, 128, 200}) {
+        for (int k : {1, 2, 5, 31, 62, 63, 64, 65, 100}) {
+            LargeInteger const value = powerOfTwo(k) + LargeInteger(1);
+            LargeInteger const m = (powerOfTwo(j) - LargeInteger(1)) * value + LargeInteger(1);
+            if (m > value)
+                expectPlainInverse(value, m);
+        }
+    }
+}
+
+// Small values: where the last coefficient is negative, the plain steps add the modulus up to half
+// as many times.
+TEST(Inverse, LeavesTheBooksOfThePlainSteps) {
+    for (int bits : {3, 31, 33, 63, 64, 65, 66, 127, 129, 192, 500}) {
+        for (int v = 3; v < 200; v += 2) {
+            for (int offset = 0; offset < 3; ++offset) {
+                LargeInteger const value(v);
+                LargeInteger const m = powerOfTwo(bits) + LargeInteger(offset);
+                if (value.findGreatestCommonDivisor(m).isOne())
+                    expectPlainInverse(value, m);
+            }
+        }
+    }
 }
 
 TEST(Power, OfDocumentedExamples) {

@@ -33,24 +33,6 @@ void correct(Limb* quotient, std::size_t digits, Limb* a, Limb carry, Limb const
     }
 }
 
-/// Fewer digits than the divisor has limbs.
-void divideByUpperPart(Limb* quotient, Limb* a, Limb const* divisor, std::size_t count,
-                       std::size_t digits, Limb* scratch) noexcept {
-    std::size_t const lower = count - digits;
-    Limb const* const upper = divisor + lower;
-    Limb carry = 0;
-    if (compare(a + count, upper, digits) < 0) {
-        divideBlock(quotient, a + lower, upper, digits, digits, scratch);
-    } else {
-        // The upper parts are equal: the largest quotient, and the remainder
-        // upper * B + rest - (B - 1) * upper = rest + upper for B = 2^(64 digits).
-        std::fill(quotient, quotient + digits, ~Limb{0});
-        std::fill(a + count, a + count + digits, Limb{0});
-        carry = add(a + lower, a + lower, upper, digits);
-    }
-    correct(quotient, digits, a, carry, divisor, count, scratch);
-}
-
 /// quotient[0, digits) = a[0, count + digits) / divisor, for digits <= count and upper `count`
 /// limbs of a below the divisor; the remainder stays in a, with zeros above.
 void divideBlock(Limb* quotient, Limb* a, Limb const* divisor, std::size_t count,
@@ -69,6 +51,23 @@ void divideBlock(Limb* quotient, Limb* a, Limb const* divisor, std::size_t count
 }
 
 }  // namespace
+
+void divideByUpperPart(Limb* quotient, Limb* a, Limb const* divisor, std::size_t count,
+                       std::size_t digits, Limb* scratch) noexcept {
+    std::size_t const lower = count - digits;
+    Limb const* const upper = divisor + lower;
+    Limb carry = 0;
+    if (compare(a + count, upper, digits) < 0) {
+        divideBlock(quotient, a + lower, upper, digits, digits, scratch);
+    } else {
+        // The upper parts are equal: the largest quotient, and the remainder
+        // upper * B + rest - (B - 1) * upper = rest + upper for B = 2^(64 digits).
+        std::fill(quotient, quotient + digits, ~Limb{0});
+        std::fill(a + count, a + count + digits, Limb{0});
+        carry = add(a + lower, a + lower, upper, digits);
+    }
+    correct(quotient, digits, a, carry, divisor, count, scratch);
+}
 
 // A product of `count` limbs and its needs: with b <= count / 2 limbs in the shorter factor these
 // are 12b for slices, and 4b + 256 by Karatsuba's method or at most (4 + 4/3) * 3/2 points for each

@@ -60,15 +60,6 @@ class Residue {
     std::size_t length;
 };
 
-/// X = floor((B^2n - 1) / a), whose dividend is B^n (B^n - 1 - a) + (B^n - 1) after B^n a is taken
-/// away.
-void reciprocalByDivision(Limb* x, Limb const* a, std::size_t count, Limb* scratch) noexcept {
-    std::fill(scratch, scratch + count, ~Limb{0});
-    for (std::size_t i = 0; i < count; ++i)
-        scratch[count + i] = ~a[i];
-    divideByHalves(x, scratch, 2 * count, a, count, scratch + 2 * count);
-}
-
 /// One step of Newton's iteration: with the upper limbs of a and of X known, the `lower` ones.
 ///
 /// For the upper part Y = B^h + y of X, before its correction, a Y is less than 2 B^n away from
@@ -206,21 +197,32 @@ class BlockDivision {
 
 }  // namespace
 
-// Each step of Newton's iteration needs more than those before it.
+// Enough for either way, at every length: each step of Newton's iteration needs more than those
+// before it.
 std::size_t reciprocalScratch(std::size_t count) noexcept {
-    std::size_t const last = std::min(count, reciprocalNewton);
-    std::size_t const quotient = 2 * last + divideByHalvesScratch(last);
-    return count < reciprocalNewton ? quotient : std::max(quotient, refineScratch(count));
+    return std::max(2 * count + divideByHalvesScratch(count), refineScratch(count));
 }
 
-void reciprocal(Limb* x, Limb const* a, std::size_t count, Limb* scratch) noexcept {
-    if (count < reciprocalNewton) {
-        reciprocalByDivision(x, a, count, scratch);
-        return;
-    }
+// X = floor((B^2n - 1) / a), whose dividend is B^n (B^n - 1 - a) + (B^n - 1) after B^n a is taken
+// away.
+void reciprocalByDivision(Limb* x, Limb const* a, std::size_t count, Limb* scratch) noexcept {
+    std::fill(scratch, scratch + count, ~Limb{0});
+    for (std::size_t i = 0; i < count; ++i)
+        scratch[count + i] = ~a[i];
+    divideByHalves(x, scratch, 2 * count, a, count, scratch + 2 * count);
+}
+
+void reciprocalByNewton(Limb* x, Limb const* a, std::size_t count, Limb* scratch) noexcept {
     std::size_t const lower = (count - 1) / 2;
     reciprocal(x + lower, a + lower, count - lower, scratch);
     refine(x, a, count, lower, scratch);
+}
+
+void reciprocal(Limb* x, Limb const* a, std::size_t count, Limb* scratch) noexcept {
+    if (count < reciprocalNewton)
+        reciprocalByDivision(x, a, count, scratch);
+    else
+        reciprocalByNewton(x, a, count, scratch);
 }
 
 // Blocks of half the divisor's limbs need the most.

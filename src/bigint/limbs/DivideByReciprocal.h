@@ -14,5 +14,8 @@ std::size_t divideByReciprocalScratch(std::size_t count) noexcept;
 /// `a` of 2 limbs or more, with the top bit of the highest set.
 void reciprocal(Limb* x, Limb const* a, std::size_t count, Limb* scratch) noexcept;
 std::size_t reciprocalScratch(std::size_t count) noexcept;
+/// Its two ways: a quotient, and one step of Newton's iteration, for 3 limbs or more.
+void reciprocalByDivision(Limb* x, Limb const* a, std::size_t count, Limb* scratch) noexcept;
+void reciprocalByNewton(Limb* x, Limb const* a, std::size_t count, Limb* scratch) noexcept;
 
 }  // namespace qel::limbs

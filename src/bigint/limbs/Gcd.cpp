@@ -4,9 +4,11 @@
 //
 // Why the leading bits are enough. With A = floor(a / 2^k) and B = floor(b / 2^k) below 2^128,
 // Euclid's steps give (A, B) = M (A', B') for a matrix M of non-negative entries and determinant 1.
-// They stop while A' and B' are at least 2^64, so every entry is at most A / 2^64 < 2^64, fits a
-// limb, and (a', b') = M^-1 (a, b) differs from 2^k (A', B') by less than 2^64 2^k: both stay
-// non-negative. A matrix of determinant 1 keeps the gcd, whatever the true quotients are.
+// Where A' and B' are at least 2^64, every entry is at most A / 2^64 < 2^64, fits a limb, and
+// (a', b') = M^-1 (a, b) differs from 2^k (A', B') by less than 2^64 2^k: both stay non-negative.
+// A matrix of determinant 1 keeps the gcd, whatever the true quotients are.
+//
+// The 128 bits are taken in two halves in the same way, each by Euclid on single limbs.
 #include "Gcd.h"
 
 #include <algorithm>
@@ -26,38 +28,54 @@ struct Matrix {
     [[nodiscard]] bool isIdentity() const noexcept { return m01 == 0 && m10 == 0; }
 };
 
-constexpr DoubleLimb half = DoubleLimb{1} << bitsPerLimb;
+Matrix operator*(Matrix const& x, Matrix const& y) noexcept {
+    return {x.m00 * y.m00 + x.m01 * y.m10, x.m00 * y.m01 + x.m01 * y.m11,
+            x.m10 * y.m00 + x.m11 * y.m10, x.m10 * y.m01 + x.m11 * y.m11};
+}
 
-/// larger -= q * smaller for the largest q that leaves at least 2^64; columns likewise. False when
-/// there is no such q above 0.
-bool reduceOnce(DoubleLimb& larger, DoubleLimb smaller, Limb& top, Limb& bottom, Limb otherTop,
+/// larger %= smaller where that leaves at least `least`; columns likewise. False elsewhere.
+bool reduceOnce(Limb& larger, Limb smaller, Limb least, Limb& top, Limb& bottom, Limb otherTop,
                 Limb otherBottom) noexcept {
-    if (larger < smaller || larger - smaller < half)
+    // Small quotients are the most frequent ones, but a wrong guess costs more than a division.
+    Limb const q = larger / smaller;
+    Limb const rest = larger - q * smaller;
+    if (rest < least)
         return false;
-    // Quotients are 1, 2 or 3 two times in three.
-    Limb q = 1;
-    larger -= smaller;
-    for (; q < 4 && larger >= smaller && larger - smaller >= half; ++q)
-        larger -= smaller;
-    if (q == 4 && larger >= smaller && larger - smaller >= half) {
-        Limb const more = static_cast<Limb>((larger - half) / smaller);
-        larger -= more * smaller;
-        q += more;
-    }
+    larger = rest;
     top += q * otherTop;
     bottom += q * otherBottom;
     return true;
 }
 
-/// Euclid on the leading bits, while both stay at 2^64 or above.
-Matrix leadingSteps(DoubleLimb a, DoubleLimb b) noexcept {
+/// Euclid on two limbs, while both stay at `least` or above; they may begin below.
+Matrix limbSteps(Limb a, Limb b, Limb least) noexcept {
     Matrix m;
-    bool reduced = a >= half && b >= half;
-    while (reduced) {
-        reduced = a >= b ? reduceOnce(a, b, m.m01, m.m11, m.m00, m.m10)
-                         : reduceOnce(b, a, m.m00, m.m10, m.m01, m.m11);
+    if (a < least || b < least)
+        return m;
+    while (reduceOnce(a, b, least, m.m01, m.m11, m.m00, m.m10)
+           && reduceOnce(b, a, least, m.m00, m.m10, m.m01, m.m11)) {
     }
     return m;
+}
+
+/// Euclid on the leading bits, while both stay at 2^64 or above.
+///
+/// First on their upper halves: as above, those stay at 2^32 or above and entries below 2^32. Then
+/// on what that leaves, a and b with their lower `shift` bits cut off. What these bits change is
+/// less than 2^32 2^shift, and so the results stay at 2^64 or above.
+Matrix leadingSteps(DoubleLimb a, DoubleLimb b) noexcept {
+    constexpr Limb half = Limb{1} << 32;
+    Matrix const first = limbSteps(upperLimb(a), upperLimb(b), half);
+    if (first.isIdentity())
+        return first;
+    DoubleLimb const restA = first.m11 * a - first.m01 * b;
+    DoubleLimb const restB = first.m00 * b - first.m10 * a;
+    int const shift = bitsPerLimb - std::countl_zero(upperLimb(std::max(restA, restB)));
+    if (shift < bitsPerLimb / 2)
+        return first;
+    Limb const least = half + (Limb{1} << (bitsPerLimb - shift));
+    return first
+           * limbSteps(static_cast<Limb>(restA >> shift), static_cast<Limb>(restB >> shift), least);
 }
 
 /// The 128 bits of a that start `shift` bits below the top of limb `count` - 1.
@@ -129,23 +147,24 @@ class Reduction {
     Reduction(Side first, Side second, std::size_t cofactorLimbs, Limb* limbs) noexcept
         : a(first), b(second), cofactorCount(cofactorLimbs), scratch(limbs) {}
 
-    /// Until one side is zero; returns the other.
-    Side& run() noexcept {
+    /// Until one side is zero or both are single limbs.
+    void run() noexcept {
         for (;;) {
             a.count = significant(a.number, a.count);
             b.count = significant(b.number, b.count);
-            if (a.count == 0)
-                return b;
-            if (b.count == 0)
-                return a;
+            if (std::min(a.count, b.count) == 0 || std::max(a.count, b.count) == 1)
+                return;
             step();
         }
     }
 
+    Side a;
+    Side b;
+
   private:
     void step() noexcept {
         std::size_t const count = std::max(a.count, b.count);
-        if (count >= 2 && a.count + 1 >= count && b.count + 1 >= count) {
+        if (a.count + 1 >= count && b.count + 1 >= count) {
             // Limbs above a side's count are zero: only reductions shorten it.
             int const shift = std::countl_zero(a.number[count - 1] | b.number[count - 1]);
             Matrix const m =
@@ -153,39 +172,34 @@ class Reduction {
             if (!m.isIdentity()) {
                 applyInverse(a.number, b.number, count, m);
                 if (a.cofactor != nullptr)
-                    applySums(a.cofactor, b.cofactor, cofactorCount, m);
+                    growCofactors(m);
                 return;
             }
         }
         bool const aIsLess = isLess(a, b);
         Side& larger = aIsLess ? b : a;
         Side& smaller = aIsLess ? a : b;
-        if (count == 1)
-            divideOneLimb(larger, smaller);
-        else
-            divide(larger, smaller);
+        divide(larger, smaller);
+    }
+
+    /// Sums of two products by limbs, which have two limbs more at most.
+    void growCofactors(Matrix const& m) noexcept {
+        std::size_t const count = std::min(cofactorUsed + 2, cofactorCount);
+        applySums(a.cofactor, b.cofactor, count, m);
+        cofactorUsed = std::max(significant(a.cofactor, count), significant(b.cofactor, count));
     }
 
     static bool isLess(Side const& x, Side const& y) noexcept {
         return x.count != y.count ? x.count < y.count : compare(x.number, y.number, x.count) < 0;
     }
 
-    void divideOneLimb(Side& larger, Side const& smaller) noexcept;
     /// larger %= smaller, for steps that the leading bits cannot decide.
     void divide(Side& larger, Side const& smaller) noexcept;
 
-    Side a;
-    Side b;
     std::size_t cofactorCount;
+    std::size_t cofactorUsed = 1;
     Limb* scratch;
 };
-
-void Reduction::divideOneLimb(Side& larger, Side const& smaller) noexcept {
-    Limb const quotient = larger.number[0] / smaller.number[0];
-    larger.number[0] -= quotient * smaller.number[0];
-    if (larger.cofactor != nullptr)
-        addMultiply(larger.cofactor, smaller.cofactor, cofactorCount, quotient);
-}
 
 void Reduction::divide(Side& larger, Side const& smaller) noexcept {
     std::size_t const aCount = larger.count;
@@ -223,44 +237,41 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
         Limb const carry = addMultiply(larger.cofactor + i, smaller.cofactor, other, quotient[i]);
         addLimb(above, above, cofactorCount - i - other, carry);
     }
+    cofactorUsed = std::max(cofactorUsed, significant(larger.cofactor, cofactorCount));
 }
 
-/// k and j with k r + 1 = j v and 0 < k < v, for r < v; k = 0 where r and v have a common factor.
-struct Cofactors {
-    Limb k;
-    Limb j;
+/// The gcd g of two limbs, at least one not zero, as g = s v - t r or, where `negative`,
+/// g = t r - s v; t <= v and s <= r.
+struct LimbGcd {
+    Limb gcd;
+    Limb s;
+    Limb t;
+    bool negative;
 };
 
-/// Euclid on (v, r), whose remainders are, with changing signs, s v - t r and t r - s v.
-Cofactors cofactorsOfLimbs(Limb v, Limb r) noexcept {
-    Limb larger = v;
-    Limb smaller = r;
-    Limb s = 1;
-    Limb t = 0;
-    Limb nextS = 0;
-    Limb nextT = 1;
-    bool negative = true;  // whether `smaller` is t r - s v
-    while (smaller > 1) {
-        Limb const quotient = larger / smaller;
-        larger = std::exchange(smaller, larger - quotient * smaller);
-        s = std::exchange(nextS, s + quotient * nextS);
-        t = std::exchange(nextT, t + quotient * nextT);
-        negative = !negative;
+LimbGcd gcdOfLimbs(Limb v, Limb r) noexcept {
+    LimbGcd result{v, 1, 0, false};
+    LimbGcd next{r, 0, 1, true};
+    while (next.gcd != 0) {
+        Limb const q = result.gcd / next.gcd;
+        LimbGcd const rest{result.gcd - q * next.gcd, result.s + q * next.s, result.t + q * next.t,
+                           result.negative};
+        result = std::exchange(next, rest);
     }
-    if (smaller == 0)
-        return {0, 0};
-    return negative ? Cofactors{v - nextT, r - nextS} : Cofactors{nextT, nextS};
+    return result;
 }
 
 /// With m = q v + r and k r + 1 = j v the inverse of v is (k m + 1) / v = k q + j, which is below m
 /// as k is below v.
 bool inverseOfLimb(Limb* out, Limb v, Limb const* m, std::size_t count) noexcept {
-    Limb const rest = divideLimb(out, m, count, v);
-    Cofactors const cofactors = cofactorsOfLimbs(v, rest);
-    if (cofactors.k == 0)
+    Limb const r = divideLimb(out, m, count, v);
+    LimbGcd const one = gcdOfLimbs(v, r);
+    if (one.gcd != 1)
         return false;
-    multiplyLimb(out, out, count, cofactors.k);
-    addLimb(out, out, count, cofactors.j);
+    Limb const k = one.negative ? v - one.t : one.t;
+    Limb const j = one.negative ? r - one.s : one.s;
+    multiplyLimb(out, out, count, k);
+    addLimb(out, out, count, j);
     return true;
 }
 
@@ -273,9 +284,12 @@ std::size_t gcdScratch(std::size_t count) noexcept {
 
 void gcd(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noexcept {
     Reduction reduction({a, count, nullptr}, {b, count, nullptr}, 0, scratch);
-    Side const& rest = reduction.run();
-    std::copy(rest.number, rest.number + rest.count, out);
-    std::fill(out + rest.count, out + count, Limb{0});
+    reduction.run();
+    Side const& longer = reduction.a.count != 0 ? reduction.a : reduction.b;
+    std::copy(longer.number, longer.number + longer.count, out);
+    std::fill(out + longer.count, out + count, Limb{0});
+    if (reduction.a.count == 1 && reduction.b.count == 1)
+        out[0] = gcdOfLimbs(a[0], b[0]).gcd;
 }
 
 // Both cofactors with a limb to spare, the modulus, and a division step.
@@ -294,14 +308,19 @@ bool inverse(Limb* out, Limb* v, Limb* m, std::size_t count, Limb* scratch) noex
     Limb* const modulus = scratch + 2 * cofactorCount;
     std::copy(m, m + count, modulus);
     Reduction reduction({m, count, ofM}, {v, count, ofV}, cofactorCount, modulus + count);
-    Side const& rest = reduction.run();
-    if (rest.count != 1 || rest.number[0] != 1)
+    reduction.run();
+    if (std::max(reduction.a.count, reduction.b.count) != 1)
         return false;
-    // The side of m holds -cofactor * v.
-    if (rest.cofactor == ofM)
-        subtract(out, modulus, ofM, count);
+    LimbGcd const one = gcdOfLimbs(m[0], v[0]);
+    if (one.gcd != 1)
+        return false;
+    // The side of m holds -ofM * v.
+    multiplyLimb(ofM, ofM, cofactorCount, one.s);
+    addMultiply(ofM, ofV, cofactorCount, one.t);
+    if (one.negative)
+        std::copy(ofM, ofM + count, out);
     else
-        std::copy(ofV, ofV + count, out);
+        subtract(out, modulus, ofM, count);
     return true;
 }
 

@@ -19,6 +19,10 @@ __extension__ typedef unsigned __int128 DoubleLimb;
 
 inline constexpr int bitsPerLimb = 64;
 
+[[nodiscard]] constexpr Limb upperLimb(DoubleLimb x) noexcept {
+    return static_cast<Limb>(x >> bitsPerLimb);
+}
+
 // --- linear work --------------------------------------------------------------------------------
 
 /// out = a + b.

@@ -6,10 +6,6 @@
 
 namespace qel::limbs {
 
-[[nodiscard]] constexpr Limb upperLimb(DoubleLimb x) noexcept {
-    return static_cast<Limb>(x >> bitsPerLimb);
-}
-
 /// A factor with the quotient factor * 2^64 / p, rounded down.
 struct Factor {
     Limb value;
