@@ -16,7 +16,7 @@ inline constexpr std::size_t transformMultiply = 3400;
 inline constexpr std::size_t transformSquare = 3400;
 
 /// Quotients of fewer limbs are taken digit by digit. At least 2.
-inline constexpr std::size_t divideSplit = 48;
+inline constexpr std::size_t divideSplit = 40;
 /// From so many digits and limbs of the divisor on, quotients are taken by a reciprocal.
 inline constexpr std::size_t divideReciprocal = 2000;
 /// Reciprocals of so many limbs are refined by Newton's iteration; shorter ones are quotients.
