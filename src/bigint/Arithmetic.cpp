@@ -7,6 +7,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 /// |this| + |b|; the flag stays.
 void LargeInteger::addMagnitude(LargeInteger const& b) noexcept {
     long long const bound = std::max(highestBit, b.highestBit) + 1LL;

@@ -8,6 +8,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 namespace {
 
 constexpr std::uint32_t bitMask(long long position) noexcept {

@@ -7,6 +7,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 LargeInteger& LargeInteger::operator&=(LargeInteger const& b) noexcept {
     for (int i = size - 1; i >= b.size; --i)
         data[i] = 0;

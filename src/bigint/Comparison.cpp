@@ -5,6 +5,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 void LargeInteger::setNegative(bool flag) noexcept {
     negative = flag;
 }

@@ -9,6 +9,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 /// Replaces the words below the top of the value by those of `value`.
 void LargeInteger::overwrite(int oldTop, std::uint64_t const* value, int top) noexcept {
     std::fill(data, data + wordIndex(oldTop) + 1, 0U);

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace qel {
+namespace qel::internal {
 
 void endProcess(char const* reason) noexcept {
     std::fputs("qel: ", stderr);
@@ -16,4 +16,4 @@ void endProcessTooWide() noexcept {
     endProcess("a LargeInteger would be wider than an int can index");
 }
 
-}  // namespace qel
+}  // namespace qel::internal

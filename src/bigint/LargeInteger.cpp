@@ -12,6 +12,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 namespace {
 
 /// From this capacity on, a reset to zero releases the buffer.

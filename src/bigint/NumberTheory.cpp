@@ -12,6 +12,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 namespace {
 
 /// The 64 bits from the highest set bit `top` of a down, with zeros below where there are fewer.

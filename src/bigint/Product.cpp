@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace qel {
+namespace qel::internal {
 
 namespace {
 
@@ -102,4 +102,4 @@ Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
     remainderTop = static_cast<int>(topBit(a, count));
 }
 
-}  // namespace qel
+}  // namespace qel::internal

@@ -4,7 +4,7 @@
 
 #include "Storage.h"
 
-namespace qel {
+namespace qel::internal {
 
 /// A magnitude to compute with: words, and the exact index of the highest set bit (-1 for zero).
 struct Magnitude {
@@ -44,4 +44,4 @@ class Quotient {
     Workspace workspace;
 };
 
-}  // namespace qel
+}  // namespace qel::internal

@@ -8,6 +8,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 void LargeInteger::shiftBits(int count, int from) noexcept {
     shiftBy(count, from);
 }

@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 
-namespace qel {
+namespace qel::internal {
 
 /// The capacity of a new value, and the least there is.
 inline constexpr int initialSize = 4;
@@ -106,4 +106,4 @@ class Workspace {
     limbs::Limb* free;
 };
 
-}  // namespace qel
+}  // namespace qel::internal

@@ -8,7 +8,7 @@
 #include <climits>
 #include <cstdint>
 
-namespace qel {
+namespace qel::internal {
 
 inline constexpr int bitsPerWord = 32;
 
@@ -34,4 +34,4 @@ inline int checkedPosition(long long position) noexcept {
     return position < 0 ? -1 : static_cast<int>(position);
 }
 
-}  // namespace qel
+}  // namespace qel::internal

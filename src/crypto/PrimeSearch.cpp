@@ -15,9 +15,10 @@
 
 namespace qel {
 
+using namespace internal;
+
 namespace {
 
-using internal::Screening;
 using limbs::Limb;
 
 LargeInteger startingValue(int bitCount, int const* seeds, int seedCount) noexcept {
@@ -52,20 +53,17 @@ class CandidateWalk {
     /// @param base even; it, and the end of the walk, are below the double of 2^bitCount
     CandidateWalk(LargeInteger const& base, int bitCount, int witnessLimit,
                   Workspace& workspace) noexcept
-        : count(limbsFor(bitCount)), witnessCount(witnessLimit),
-          most(internal::numbersAtOnce(count)),
+        : count(limbsFor(bitCount)), witnessCount(witnessLimit), most(numbersAtOnce(count)),
           screening(copied(base, workspace.take(count), count), count, witnessCount,
-                    worthwhileLimit(bitCount, most),
-                    workspace.take(internal::screeningScratch(count))),
-          scratch(workspace.take(internal::witnessScratch(count))) {
+                    worthwhileLimit(bitCount, most), workspace.take(screeningScratch(count))),
+          scratch(workspace.take(witnessScratch(count))) {
         for (std::size_t k = 0; k < most; ++k)
             candidates[k] = workspace.take(count);
     }
 
     static std::size_t limbsNeeded(int bitCount) noexcept {
         std::size_t const count = limbsFor(bitCount);
-        return (1 + internal::mostNumbersAtOnce) * count + internal::screeningScratch(count)
-               + internal::witnessScratch(count);
+        return (1 + mostNumbersAtOnce) * count + screeningScratch(count) + witnessScratch(count);
     }
 
     /// The index of the first of the next `length` odd numbers that passes; -1 when none does.
@@ -86,7 +84,7 @@ class CandidateWalk {
     static std::size_t limbsFor(int bitCount) noexcept { return limbCount(std::max(bitCount, 0)); }
 
     static Limb const* copied(LargeInteger const& base, Limb* out, std::size_t count) noexcept {
-        internal::copyLimbs(out, count, base);
+        copyLimbs(out, count, base);
         return out;
     }
 
@@ -116,7 +114,7 @@ class CandidateWalk {
             next += static_cast<std::size_t>(found);
             // Last, though documented to come first: it hardly ever says anything about a number
             // that passes.
-            if (!internal::isStruckByDivisors(candidates[next], count))
+            if (!isStruckByDivisors(candidates[next], count))
                 return indices[next];
             ++next;
         }
@@ -130,8 +128,8 @@ class CandidateWalk {
     Screening screening;
     Limb* scratch;
     std::size_t gathered = 0;
-    std::array<Limb*, internal::mostNumbersAtOnce> candidates;
-    std::array<int, internal::mostNumbersAtOnce> indices;
+    std::array<Limb*, mostNumbersAtOnce> candidates;
+    std::array<int, mostNumbersAtOnce> indices;
 };
 
 }  // namespace

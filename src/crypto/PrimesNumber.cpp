@@ -8,6 +8,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 namespace {
 
 /// 2 * 3 * 5 * 7 * 11 * 13 * 17 * 19 * 23.
@@ -39,11 +41,11 @@ bool PrimesNumber::isProbablyPrime(LargeInteger const& n, int witnessCount) noex
         return false;
 
     std::size_t const count = limbCount(n.getHighestBit());
-    Workspace workspace(count + internal::witnessScratch(count));
+    Workspace workspace(count + witnessScratch(count));
     limbs::Limb* const copy = workspace.take(count);
-    internal::copyLimbs(copy, count, n);
+    copyLimbs(copy, count, n);
     limbs::Limb const* const number = copy;
-    return internal::findPassing({&number, 1}, count, witnessCount, workspace.take(0)) == 0;
+    return findPassing({&number, 1}, count, witnessCount, workspace.take(0)) == 0;
 }
 
 }  // namespace qel

@@ -7,6 +7,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 namespace {
 
 constexpr unsigned long long multiplier = 0x5DEECE66DULL;

@@ -8,6 +8,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 bool CharFunctions::IsDigit(char c) noexcept {
     return c >= '0' && c <= '9';
 }

@@ -1,7 +1,7 @@
 // What a hexadecimal digit is, for tables that are made while compiling as well.
 #pragma once
 
-namespace qel {
+namespace qel::internal {
 
 /// 0 to 15, -1 for what is no digit.
 constexpr int hexDigitValue(char c) noexcept {
@@ -14,4 +14,4 @@ constexpr int hexDigitValue(char c) noexcept {
     return -1;
 }
 
-}  // namespace qel
+}  // namespace qel::internal

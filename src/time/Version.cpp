@@ -12,6 +12,8 @@
 
 namespace qel {
 
+using namespace internal;
+
 namespace {
 
 std::string qelVersion;

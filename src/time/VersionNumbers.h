@@ -2,10 +2,10 @@
 // version banner.
 #pragma once
 
-namespace qel {
+namespace qel::internal {
 
 inline constexpr int versionMajor = 1;
 inline constexpr int versionMinor = 4;
 inline constexpr int versionRelease = 0;
 
-}  // namespace qel
+}  // namespace qel::internal
