@@ -4,13 +4,13 @@
 #include "bigint/limbs/DivideByHalves.h"
 #include "bigint/limbs/DivideByReciprocal.h"
 #include "bigint/limbs/Kernels.h"
+#include "bigint/limbs/MultiplyByParts.h"
 #include "bigint/limbs/Thresholds.h"
 #include "bigint/limbs/Transform.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <random>
 #include <string>
 #include <vector>
@@ -59,44 +59,44 @@ struct Threshold {
     Algorithm runShorter;
     char const* longer;
     Algorithm runLonger;
-    /// Beyond these lengths one of the two cannot be called.
+    /// Below this length the second algorithm is the first one.
     std::size_t least = 4;
-    std::size_t most = SIZE_MAX;
 };
 
 // A row for each threshold. An algorithm that calls itself for parts is one level of it, with the
 // choice below left as it is.
 Threshold const thresholds[] = {
-    {"karatsubaMultiply", karatsubaMultiply, "rows",
+    {"halvesMultiply", halvesMultiply, "rows",
      [](Operands& x, std::size_t n) {
          kernels().multiplyRows(x.out.data(), x.a.data(), n, x.b.data(), n);
      },
-     "halves",
+     "parts",
      [](Operands& x, std::size_t n) {
-         multiply(x.out.data(), x.a.data(), n, x.b.data(), n, x.scratch.data());
+         multiplyByParts(x.out.data(), x.a.data(), x.b.data(), n, x.scratch.data());
      },
-     karatsubaMultiply},
-    {"karatsubaSquare", karatsubaSquare, "rows",
-     [](Operands& x, std::size_t n) { kernels().squareRows(x.out.data(), x.a.data(), n); },
-     "halves",
-     [](Operands& x, std::size_t n) { square(x.out.data(), x.a.data(), n, x.scratch.data()); },
-     karatsubaSquare},
-    {"transformMultiply", transformMultiply, "halves",
+     halvesMultiply},
+    {"halvesSquare", halvesSquare, "rows",
+     [](Operands& x, std::size_t n) { kernels().squareRows(x.out.data(), x.a.data(), n); }, "parts",
      [](Operands& x, std::size_t n) {
-         multiply(x.out.data(), x.a.data(), n, x.b.data(), n, x.scratch.data());
+         multiplyByParts(x.out.data(), x.a.data(), x.a.data(), n, x.scratch.data());
+     },
+     halvesSquare},
+    {"transformMultiply", transformMultiply, "parts",
+     [](Operands& x, std::size_t n) {
+         multiplyByParts(x.out.data(), x.a.data(), x.b.data(), n, x.scratch.data());
      },
      "transforms",
      [](Operands& x, std::size_t n) {
          multiplyByTransform(x.out.data(), x.a.data(), n, x.b.data(), n, x.scratch.data());
+     }},
+    {"transformSquare", transformSquare, "parts",
+     [](Operands& x, std::size_t n) {
+         multiplyByParts(x.out.data(), x.a.data(), x.a.data(), n, x.scratch.data());
      },
-     4, transformMultiply - 1},
-    {"transformSquare", transformSquare, "halves",
-     [](Operands& x, std::size_t n) { square(x.out.data(), x.a.data(), n, x.scratch.data()); },
      "transforms",
      [](Operands& x, std::size_t n) {
          multiplyByTransform(x.out.data(), x.a.data(), n, x.a.data(), n, x.scratch.data());
-     },
-     4, transformSquare - 1},
+     }},
     {"divideSplit", divideSplit, "digit by digit",
      [](Operands& x, std::size_t n) {
          divideNormalized(x.out.data(), x.dividend(3 * n), 3 * n, x.b.data(), 2 * n);
@@ -140,7 +140,7 @@ std::vector<std::size_t> lengths(Threshold const& threshold) {
     std::vector<std::size_t> all;
     for (std::size_t percent : {33U, 50U, 65U, 80U, 90U, 100U, 110U, 125U, 150U, 200U, 300U}) {
         std::size_t const n = threshold.limbs * percent / 100;
-        if (n >= threshold.least && n <= threshold.most)
+        if (n >= threshold.least)
             all.push_back(n);
     }
     return all;

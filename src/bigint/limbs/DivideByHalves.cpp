@@ -70,7 +70,7 @@ void divideByUpperPart(Limb* quotient, Limb* a, Limb const* divisor, std::size_t
 }
 
 // A product of `count` limbs and its needs: with b <= count / 2 limbs in the shorter factor these
-// are 12b for slices, and 4b + 256 by Karatsuba's method or at most (4 + 4/3) * 3/2 points for each
+// are 12b for slices, and 4b by parts or at most (4 + 4/3) * 3/2 points for each
 // of 64/80 count + 4 coefficients: together below 13 count + 256.
 std::size_t divideByHalvesScratch(std::size_t count) noexcept {
     return 14 * count + 256;

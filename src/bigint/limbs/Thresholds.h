@@ -16,12 +16,12 @@ inline constexpr std::size_t transformMultiply = 3400;
 inline constexpr std::size_t transformSquare = 3400;
 
 /// Quotients of fewer limbs are taken digit by digit. At least 2.
-inline constexpr std::size_t divideSplit = 40;
+inline constexpr std::size_t divideSplit = 20;
 /// From so many digits and limbs of the divisor on, quotients are taken by a reciprocal.
-inline constexpr std::size_t divideReciprocal = 2000;
+inline constexpr std::size_t divideReciprocal = 4500;
 /// Reciprocals of so many limbs are refined by Newton's iteration; shorter ones are quotients.
 /// At least 3, and at most divideReciprocal.
-inline constexpr std::size_t reciprocalNewton = 900;
+inline constexpr std::size_t reciprocalNewton = 2000;
 
 /// Decimal text of more groups of 19 digits than this is split. At least 6.
 inline constexpr std::size_t decimalOutSplit = 32;
