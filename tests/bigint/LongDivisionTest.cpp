@@ -103,6 +103,12 @@ void expectAll(Method const& method, std::size_t count, Operands& operands) {
     }
 }
 
+std::vector<std::size_t> correctedDigitsFor(std::size_t count) {
+    if (count > 1000)
+        return {count / 2 + 1};
+    return {count / 2 + 1, count, 2 * count};
+}
+
 /// A divisor 2^63 B^(n - 1) + (B^l - 1), whose lower part the estimate from the upper one misses,
 /// and quotients of ones: the corrections, and upper parts that are equal.
 void expectCorrections(Method const& method, std::size_t count) {
@@ -110,7 +116,7 @@ void expectCorrections(Method const& method, std::size_t count) {
         Limbs divisor(count);
         std::fill_n(divisor.begin(), lower, allOnes);
         divisor.back() |= topBit;
-        for (std::size_t digits : {count / 2 + 1, count, 2 * count}) {
+        for (std::size_t digits : correctedDigitsFor(count)) {
             Limbs const ones(digits, allOnes);
             expectDivision(method, ones, divisor, oneLess(divisor));
             expectDivision(method, ones, divisor, Limbs(count));
