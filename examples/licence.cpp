@@ -66,7 +66,8 @@ struct Licence {
     std::string signature;
 };
 
-/// The bytes of the text as the digits of a number in base 256.
+/// The bytes of the text as the digits of a number in base 256. A text that may be longer than the
+/// modulus is signed by the bytes of its digest, which come from another library.
 LargeInteger numberFromText(std::string const& text) {
     LargeInteger number;
     for (char const c : text) {

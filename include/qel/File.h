@@ -60,7 +60,8 @@ class File {
     [[nodiscard]] static bool HasOneOfTheseExtensions(char const* path,
                                                       std::vector<std::string> const& extensions,
                                                       bool ignoreCase) noexcept;
-    /// Takes the file name only from `file`, and puts it into `folder`, in Unix style.
+    /// The file comes first and the folder second, the other way round than in
+    /// `Folder::ConcatenatePaths`; and only the name of `file` goes into `folder`, in Unix style.
     ///
     /// An empty `folder` gives the bare name. Only a slash at its end counts as a separator:
     /// behind a backslash comes one more.
@@ -102,14 +103,15 @@ class File {
     /// False for a folder and where there is nothing, with `text` as it was, and for a file that
     /// does not open, with `text` empty. True with an empty `text` when there is no word. White
     /// space is that of the "C" locale. `path` must not point into `text`, which is cleared first.
-    static bool ReadStringFromFile(std::string& text, char const* path) noexcept;
+    [[nodiscard]] static bool ReadStringFromFile(std::string& text, char const* path) noexcept;
     /// Refuses a new file named without a folder, as `HasWriteAccess` does: "f" must be "./f".
     ///
     /// Appends the bytes of `text`, or else writes them into a new file in the old one's place: an
     /// existing file, or link to one, is deleted first. False without `HasWriteAccess`, when the
     /// old file cannot be deleted, and when the file does not open. Once it is open the result is
     /// true, even if the disk fills up.
-    static bool WriteStringToFile(std::string const& text, char const* path, bool append) noexcept;
+    [[nodiscard]] static bool WriteStringToFile(std::string const& text, char const* path,
+                                                bool append) noexcept;
 
     /// @}
 };

@@ -42,7 +42,8 @@ class Folder {
     /// @name Paths
     /// @{
 
-    /// Both with one slash between them, in place of a backslash at the end of `folder`.
+    /// Both with one slash between them, in place of a backslash at the end of `folder`. The folder
+    /// comes first, the other way round than in `File::MakeFullPath`.
     ///
     /// An empty `folder` gives `name`, which is never looked at: "a/" and "/b" give "a//b".
     [[nodiscard]] static std::string ConcatenatePaths(char const* folder,

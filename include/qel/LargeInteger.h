@@ -41,6 +41,9 @@ class LargeInteger {
     /// The value `v`.
     LargeInteger(unsigned int v) noexcept;
     /// The value `v`. A `long` is as near to each of the three: cast it to `long long`.
+    ///
+    /// So is every other 64-bit type but `long long`: `std::size_t`, `std::uint64_t`, and on Linux
+    /// `std::int64_t`. An unsigned one is `(LargeInteger(high) << 32) + LargeInteger(low)`.
     LargeInteger(long long v) noexcept;
     /// A deep copy, in a buffer just large enough for the source's cached bound.
     LargeInteger(LargeInteger const& source) noexcept;

@@ -22,8 +22,10 @@ class RSAKey {
     /// Reads the text form and reports nothing: without a comma both fields are zero.
     ///
     /// Digits are read as leniently as LargeInteger::parseString does in radix 16, and further
-    /// commas are skipped.
-    /// @param text must not be null.
+    /// commas are skipped. With a text from outside compare what toString() writes, and look that
+    /// the modulus is as wide as it was made: with "3,1" applyToValue does not return.
+    /// @param text must not be null; a literal 0 is a null text too, and what `RSAKey(0)` and
+    ///     `RSAKey key = 0` do is not defined.
     RSAKey(char const* text) noexcept;
 
     /// The exponent in hexadecimal, a comma, the modulus in hexadecimal; "," for a default key.

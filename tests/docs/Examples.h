@@ -16,11 +16,18 @@
 
 #include <climits>
 #include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <numeric>
+#include <optional>
+#include <random>
 #include <sstream>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 #include <sys/time.h>
 #include <sys/wait.h>

@@ -3,8 +3,8 @@
 #
 #     CharFunctions::EndsWith("abc", "cb");  // true
 #
-# or "ends the process", or "does not return". All other lines stay as they are. Failures name the
-# line of the page.
+# or "ends the process", or "does not return". All other lines stay as they are, and functions that
+# open a block are defined before its test. Failures name the line of the page.
 BEGIN { print "#include \"Examples.h\"" }
 
 FNR == 1 {
@@ -22,14 +22,28 @@ FNR == 1 {
     if (inside)
         print "}"
     inside = !inside && $0 == "```cpp"
-    if (inside) {
-        printf "\n#line %d \"%s\"\nTEST_F(Examples, %s_%s_%d) {\n", FNR, FILENAME, page, name, FNR
-        ++count
-    }
+    begun = 0
     next
 }
 
 !inside { next }
+
+!begun && /^[A-Za-z].*\) \{$/ {
+    inFunction = 1
+    printf "\n#line %d \"%s\"\nstatic ", FNR, FILENAME
+}
+
+inFunction {
+    print
+    inFunction = $0 != "}"
+    next
+}
+
+!begun && NF {
+    printf "\n#line %d \"%s\"\nTEST_F(Examples, %s_%s_%d) {\n", FNR - 1, FILENAME, page, name, FNR
+    begun = 1
+    ++count
+}
 
 match($0, /; *\/\/ /) {
     statement = substr($0, 1, RSTART - 1)
