@@ -16,6 +16,17 @@ namespace {
 /// Set for folders, and for sockets (0xC000) and block devices (0x6000) too.
 constexpr mode_t folderBit = 0x4000;
 
+/// A stream takes any exception for a failure of its own, exhausted memory too: half a word would
+/// pass for a whole one. So it hands exceptions on, and only its own mean what they meant.
+void readWord(std::istream& file, std::string& word) {
+    try {
+        file.exceptions(std::ios::badbit);
+        file >> word;
+    } catch (std::ios::failure const&) {
+        // What could be read is the word.
+    }
+}
+
 }  // namespace
 
 bool File::Exists(char const* path) noexcept {
@@ -60,7 +71,7 @@ bool File::ReadStringFromFile(std::string& text, char const* path) noexcept {
     if (!file.good())
         return false;
     file.imbue(std::locale::classic());
-    file >> text;
+    readWord(file, text);
     return true;
 }
 
