@@ -1,0 +1,103 @@
+// Each double notes the call, and fails or passes it on to the function that it stands before.
+#include "FailingCalls.h"
+
+#include <cerrno>
+#include <cstdio>
+
+#include <dlfcn.h>
+#include <sys/stat.h>
+#include <sys/uio.h>
+#include <unistd.h>
+
+namespace {
+
+bool counting = false;
+int failing = 0;
+int failure = 0;
+std::vector<std::string> called;
+
+/// Of the doubles, to their caller: `failed`, or what the next function of that name says.
+template <typename Result, typename... Arguments>
+Result passOn(char const* name, Result failed, Arguments... arguments) {
+    if (counting) {
+        called.emplace_back(name);
+        if (static_cast<int>(called.size()) == failing) {
+            errno = failure;
+            return failed;
+        }
+    }
+    using Function = Result (*)(Arguments...);
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name))(arguments...);
+}
+
+}  // namespace
+
+void faults::failCall(int n, int error) {
+    called.clear();
+    failing = n;
+    failure = error;
+    counting = true;
+}
+
+std::vector<std::string> faults::stopCalls() {
+    counting = false;
+    return called;
+}
+
+extern "C" {
+
+int access(char const* path, int mode) noexcept {
+    return passOn("access", -1, path, mode);
+}
+
+int stat(char const* path, struct stat* status) noexcept {
+    return passOn("stat", -1, path, status);
+}
+
+int remove(char const* path) noexcept {
+    return passOn("remove", -1, path);
+}
+
+int mkdir(char const* path, mode_t mode) noexcept {
+    return passOn("mkdir", -1, path, mode);
+}
+
+int chdir(char const* path) noexcept {
+    return passOn("chdir", -1, path);
+}
+
+char* getcwd(char* buffer, std::size_t size) noexcept {
+    return passOn("getcwd", static_cast<char*>(nullptr), buffer, size);
+}
+
+char* realpath(char const* path, char* resolved) noexcept {
+    return passOn("realpath", static_cast<char*>(nullptr), path, resolved);
+}
+
+FILE* fopen64(char const* path, char const* mode) {
+    return passOn("fopen64", static_cast<FILE*>(nullptr), path, mode);
+}
+
+/// A file that does not close well is closed all the same.
+int fclose(FILE* file) {
+    int const closed = passOn("fclose", EOF, file);
+    if (closed == EOF && counting && static_cast<int>(called.size()) == failing) {
+        counting = false;
+        passOn("fclose", EOF, file);
+        counting = true;
+    }
+    return closed;
+}
+
+ssize_t read(int descriptor, void* buffer, std::size_t size) {
+    return passOn("read", ssize_t{-1}, descriptor, buffer, size);
+}
+
+ssize_t write(int descriptor, void const* buffer, std::size_t size) {
+    return passOn("write", ssize_t{-1}, descriptor, buffer, size);
+}
+
+ssize_t writev(int descriptor, iovec const* parts, int count) {
+    return passOn("writev", ssize_t{-1}, descriptor, parts, count);
+}
+}
