@@ -50,6 +50,19 @@ void* operator new(std::size_t size) {
     throw std::bad_alloc();
 }
 
+// The sanitizers' own forms for arrays do not come down to the others.
+void* operator new[](std::size_t size) {
+    return operator new(size);
+}
+
+void operator delete[](void* block) noexcept {
+    std::free(block);
+}
+
+void operator delete[](void* block, std::size_t /*size*/) noexcept {
+    std::free(block);
+}
+
 void operator delete(void* block) noexcept {
     std::free(block);
 }

@@ -5,6 +5,7 @@
 #include "Ending.h"
 #include "FailingAllocations.h"
 
+#include "Thoroughness.h"
 #include "fs/TemporaryFolder.h"
 
 #include "qel/CharFunctions.h"
@@ -43,7 +44,8 @@ void expectPromisedWords(std::string const& words, LastWords promised) {
 
 /// All of a few failures, and of many the first and some of the rest.
 int next(int n) {
-    return n < 40 ? n + 1 : n + n / 4;
+    constexpr int first = thoroughness::cases(40, 8);
+    return n < first ? n + 1 : n + n / 4;
 }
 
 /// `operation` gets fresh operands from `make`, each time in a process of its own.
