@@ -317,12 +317,14 @@ TEST_F(OutOfMemoryWithFiles, EveryOperationOnFilesAndFoldersEndsTheProcess) {
         {"read",
          [](Nothing&) {
              std::string text;
-             File::ReadStringFromFile(text, "word");
+             drop(File::ReadStringFromFile(text, "word"));
          }},
-        {"append", [](Nothing&) { File::WriteStringToFile("more", "./other", true); }},
-        {"replace", [](Nothing&) { File::WriteStringToFile("more", "./other", false); }},
+        {"append", [](Nothing&) { drop(File::WriteStringToFile("more", "./other", true)); }},
+        {"replace", [](Nothing&) { drop(File::WriteStringToFile("more", "./other", false)); }},
         {"make",
-         [](Nothing&) { Folder::MakeDirectory("a folder with a long name/another folder in it"); }},
+         [](Nothing&) {
+             drop(Folder::MakeDirectory("a folder with a long name/another folder in it"));
+         }},
         {"working", [](Nothing&) { drop(Folder::GetCurrentWorkingDirectory()); }},
     };
     makeFile("word", std::string(100000, 'w') + " end");

@@ -62,7 +62,7 @@ class Runner:
         self.usual = {}  # seconds of processor time of each stage, unchanged
 
     def seconds(self, stage):
-        return max(5, int(4 * self.usual.get(stage, 150)))
+        return max(5, int(2.5 * self.usual.get(stage, 200)))
 
     def prepare(self, seconds):
         resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds + 1))

@@ -21,7 +21,7 @@ PROGRAMS = {
     "faults": {"more": ["tests/fs/TemporaryFolder.cpp"], "link": WRAPPED},
 }
 
-LONG_BIGINT = "*Differential*:*SmallWorld*:Widest*:MillionBits*"
+LONG_BIGINT = "*Differential*:*SmallWorld*:Widest*:MillionBits*:Storage.TheLargestPosition*"
 FEW_SHARDS = "*Differential*/0:*Differential*/1:*Differential*/2"
 # Its last words are those of one compiler at one level of optimisation.
 LAST_WORDS = "ReplacingDeathTest*"
