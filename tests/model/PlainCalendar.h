@@ -1,5 +1,6 @@
-// The calendar arithmetic of far dates, one documented step a line, in 32 bits that wrap around.
-// Slow and plain on purpose: the library's own must agree with it for every input.
+// Dates from fields and back, one documented step a line: far ones in calendar arithmetic of 32
+// bits that wrap around, near ones by the C library. Slow and plain on purpose: the library's own
+// must agree with it for every input.
 #pragma once
 
 #include <cstdint>
@@ -43,6 +44,22 @@ inline long long countFromFields(unsigned int year, unsigned int month, unsigned
     long long const secondsOfDay = hour * 3600U + second + minute * 60U;
     return (julianDayNumber(year, month, day) * 86400LL + secondsOfDay) * 1000 + millisecond
            - 210866803200000;
+}
+
+/// The years 1971 to 2037.
+inline long long countFromLocalFields(unsigned int year, unsigned int month, unsigned int day,
+                                      unsigned int hour, unsigned int minute, unsigned int second,
+                                      unsigned int millisecond) {
+    std::tm fields = {};
+    fields.tm_year = static_cast<int>(year - 1900);
+    fields.tm_mon = static_cast<int>(month - 1);
+    fields.tm_mday = static_cast<int>(day);
+    fields.tm_hour = static_cast<int>(hour);
+    fields.tm_min = static_cast<int>(minute);
+    fields.tm_sec = static_cast<int>(second);
+    fields.tm_isdst = -1;
+    long long const ms = std::mktime(&fields) * 1000LL;
+    return ms < 0 ? 0 : ms + millisecond;
 }
 
 inline std::tm breakDown(long long secondsSinceDayZero) {

@@ -1,35 +1,12 @@
 // File names as documented, taken literally: one documented step a line, on standard strings.
 #pragma once
 
-#include <cctype>
+#include "PlainTextFunctions.h"
+
 #include <cstddef>
 #include <string>
 
 namespace model {
-
-constexpr std::size_t npos = std::string::npos;
-
-inline std::string removeFirst(std::string const& s, std::string const& part) {
-    std::size_t const position = s.find(part);
-    return part.empty() || position == npos ? s : s.substr(position + part.size());
-}
-
-inline std::string removeLast(std::string const& s, std::string const& part) {
-    std::size_t const position = s.rfind(part);
-    if (part.empty() || position == npos)
-        return s;
-    return s.substr(0, position) + s.substr(position + part.size());
-}
-
-inline bool endsWith(std::string const& s, std::string const& suffix) {
-    return s.find_last_of(suffix) == s.size() - 1;
-}
-
-inline std::string lowerCase(std::string s) {
-    for (char& c : s)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return s;
-}
 
 inline std::string exchanged(std::string s, char from, char to) {
     for (char& c : s) {

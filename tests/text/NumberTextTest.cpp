@@ -52,41 +52,11 @@ TEST(NumberText, HexadecimalNumbersNeedALowerCasePrefixAndNoDigit) {
         EXPECT_TRUE(CharFunctions::IsNumber(s)) << s;
 }
 
-/// The documented steps for decimal text, on every text of up to six bytes of an alphabet.
-bool isPlainDecimal(std::string const& s) {
-    bool signSeen = false;
-    bool pointSeen = false;
-    bool exponentSeen = false;
-    int digits = 0;
-    for (char const c : s) {
-        if (c == '-') {
-            if (signSeen)
-                return false;
-            signSeen = true;
-        } else if (c == '1') {
-            digits += 1;
-        } else if (c == 'e') {
-            if (exponentSeen || digits == 0)
-                return false;
-            exponentSeen = true;
-            digits = 0;
-            signSeen = pointSeen = false;
-        } else if (c == '.') {
-            if (pointSeen)
-                return false;
-            pointSeen = true;
-        } else {
-            return false;
-        }
-    }
-    return digits > 0;
-}
-
 TEST(NumberText, EveryShortTextIsJudgedAsThePlainStepsDo) {
     constexpr std::string_view alphabet = "1-.e ";
     std::string s;
     auto const extend = [&](auto const& self) -> void {
-        EXPECT_EQ(CharFunctions::IsNumber(s.c_str()), isPlainDecimal(s)) << '"' << s << '"';
+        EXPECT_EQ(CharFunctions::IsNumber(s.c_str()), model::isDecimalNumber(s)) << '"' << s << '"';
         if (s.size() == 6)
             return;
         for (char const c : alphabet) {

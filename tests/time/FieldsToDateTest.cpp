@@ -41,18 +41,9 @@ long long farModel(Fields const& f) {
                                   f.millisecond);
 }
 
-/// The documented steps of the years 1971 to 2037.
 long long nearModel(Fields const& f) {
-    std::tm fields = {};
-    fields.tm_year = static_cast<int>(f.year - 1900);
-    fields.tm_mon = static_cast<int>(f.month - 1);
-    fields.tm_mday = static_cast<int>(f.day);
-    fields.tm_hour = static_cast<int>(f.hour);
-    fields.tm_min = static_cast<int>(f.minute);
-    fields.tm_sec = static_cast<int>(f.second);
-    fields.tm_isdst = -1;
-    long long const ms = std::mktime(&fields) * 1000LL;
-    return ms < 0 ? 0 : ms + f.millisecond;
+    return model::countFromLocalFields(f.year, f.month, f.day, f.hour, f.minute, f.second,
+                                       f.millisecond);
 }
 
 constexpr unsigned int negative(int value) {
