@@ -18,7 +18,7 @@ class Input {
     /// Behind the end 0, 1, 2 and so on, so that nobody waits for a certain byte for ever.
     unsigned char byte() {
         if (ended())
-            return behindTheEnd_++;
+            return static_cast<unsigned char>(behindTheEnd_++);
         auto const first = static_cast<unsigned char>(bytes_.front());
         bytes_.remove_prefix(1);
         return first;
@@ -52,7 +52,7 @@ class Input {
 
   private:
     std::string_view bytes_;
-    unsigned char behindTheEnd_ = 0;
+    unsigned int behindTheEnd_ = 0;
 };
 
 }  // namespace fuzz
