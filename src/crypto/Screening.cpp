@@ -19,10 +19,10 @@ static_assert(smallPrimes[lastTrialPrime] == 23);
 /// Twice a prime plus one, not the primes themselves: 13, 17, 19 and 29 never strike. The set of
 /// candidates that reach the test, and with it the prime that is found, rests on this.
 consteval std::array<std::uint16_t, 1755> documentedDivisors() noexcept {
-    std::array<std::uint16_t, 1755> divisors{3};
-    for (std::size_t i = 1; i < divisors.size(); ++i)
-        divisors[i] = static_cast<std::uint16_t>(2 * smallPrimes[i - 1] + 1);
-    return divisors;
+    std::array<std::uint16_t, 1755> documented{3};
+    for (std::size_t i = 1; i < documented.size(); ++i)
+        documented[i] = static_cast<std::uint16_t>(2 * smallPrimes[i - 1] + 1);
+    return documented;
 }
 
 constexpr auto divisors = makeDivisorTable(documentedDivisors());
