@@ -112,4 +112,11 @@ TEST(NumberFormat, LongTextsOfFloatsAreWrittenInFull) {
     }
 }
 
+TEST(NumberFormat, AFormatThatTheCLibraryRefusesGivesNothing) {
+    char const* const tooWide = "%2147483648f";
+    EXPECT_EQ(CharFunctions::Float2String(1.5, tooWide), "");
+    EXPECT_EQ(CharFunctions::Float2String(1.5F, tooWide), "");
+    EXPECT_EQ(inBufferOf(0, [=](char* out) { CharFunctions::Float2Char(1.5, out, tooWide); }), "");
+}
+
 }  // namespace
