@@ -96,7 +96,10 @@ TEST_F(PathLengths, WholePathsAreJoinedTranslatedAndCopied) {
 std::string pathOfLength(std::size_t length, char name) {
     if (length == 0)
         return {};
-    return (length > 1 ? "." : "") + std::string(length > 2 ? length - 2 : 0, '/') + name;
+    std::string path(length, '/');
+    path.front() = '.';
+    path.back() = name;
+    return path;
 }
 
 /// The system's realpath may take paths of more bytes than its other calls.

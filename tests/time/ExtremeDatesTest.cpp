@@ -43,7 +43,8 @@ constexpr bool isOfTheLibrary(long long count) {
 
 std::string number(int field) {
     auto const value = static_cast<unsigned int>(field);
-    return (value <= 9 ? "0" : "") + std::to_string(value);
+    std::string const digits = std::to_string(value);
+    return value <= 9 ? '0' + digits : digits;
 }
 
 TEST_F(ExtremeDates, GettersFollowThePlainSteps) {
