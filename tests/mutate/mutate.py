@@ -31,10 +31,20 @@ def copy_tree(tree, copy):
         for place, _, names in os.walk(os.path.join(tree, folder)):
             to = os.path.join(copy, os.path.relpath(place, tree))
             os.makedirs(to, exist_ok=True)
+            for name in set(os.listdir(to)) - set(os.listdir(place)):
+                remove(os.path.join(to, name))
             for name in names:
                 source, target = os.path.join(place, name), os.path.join(to, name)
                 if not os.path.exists(target) or read(source) != read(target):
                     shutil.copy(source, target)
+
+
+def remove(path):
+    """What is no longer in the tree, a file or a folder."""
+    if os.path.isdir(path):
+        shutil.rmtree(path)
+    else:
+        os.remove(path)
 
 
 def read(path):
