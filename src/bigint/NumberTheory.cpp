@@ -78,6 +78,8 @@ void LargeInteger::subtractWhileLarger(LargeInteger const& b) noexcept {
 }
 
 LargeInteger LargeInteger::findGreatestCommonDivisor(LargeInteger other) const noexcept {
+    if (other.isZero())
+        return LargeInteger(*this);
     if (!isNegative() && !other.isNegative())
         return gcdOfMagnitudes(other);
     // Euclid's algorithm while the sizes differ, then repeated subtraction: which signs come to an
