@@ -12,7 +12,9 @@
 #include "qel/Version.h"
 
 #include <charconv>
+#include <chrono>
 #include <filesystem>
+#include <iomanip>
 #include <iostream>
 #include <optional>
 #include <random>
@@ -168,20 +170,26 @@ void printBanner() {
               << now.ConvertToString(true, true, true, false, true) << "\n\n";
 }
 
-void createKeyPair(qel::RSAKey& first, qel::RSAKey& second, Options const& options) {
+using Milliseconds = std::chrono::duration<double, std::milli>;
+
+/// Returns how long it took.
+Milliseconds createKeyPair(qel::RSAKey& first, qel::RSAKey& second, Options const& options) {
     std::optional<ElapsedLine> line;
     if (options.bits > widestWithoutLine)
         line.emplace("Creating keys of " + std::to_string(options.bits) + " bits:");
+    auto const start = std::chrono::steady_clock::now();
     qel::RSAKey::createKeyPair(first, second, options.bits, options.seeds.data(),
                                static_cast<int>(options.seeds.size()));
+    return std::chrono::steady_clock::now() - start;
 }
 
 int demonstrate(Options const& options) {
     qel::RSAKey first;
     qel::RSAKey second;
-    createKeyPair(first, second, options);
+    Milliseconds const time = createKeyPair(first, second, options);
     std::cout << "Key pair of " << options.bits << " bits from the seeds ";
     printSeeds(options.seeds);
+    std::cout << ", created in " << std::fixed << std::setprecision(1) << time.count() << " ms";
     std::cout << "\n  first key   " << first.toString() << "\n  second key  " << second.toString()
               << "\n\n";
 

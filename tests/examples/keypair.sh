@@ -49,6 +49,11 @@ comes_back() { # message, further arguments
     done
 }
 
+# The time that the keys took is told, in milliseconds.
+"$program" --bits 64 --seeds 1,2 |
+    grep -Eq '^Key pair of 64 bits from the seeds 1,2, created in [0-9]+[.][0-9] ms$' ||
+    fail 'no time'
+
 # Files stand in a folder of their own for a moment; nothing is left of it.
 temporary=$(mktemp -d)
 export TMPDIR="$temporary"
