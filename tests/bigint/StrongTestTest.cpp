@@ -83,7 +83,7 @@ TEST(StrongTest, AgreesForEveryLeadingZeroOfTheHighestLimb) {
 TEST(StrongTest, AgreesWhereTwoDividesOftenIntoTheNumberBelow) {
     for (int s = 1; s <= 200; ++s) {
         for (unsigned const k : {1U, 3U, 5U, 9U}) {
-            Limbs n(4, 0);
+            Limbs n(5, 0);
             auto const limb = static_cast<std::size_t>(s / 64);
             n[limb] = Limb{k} << (s % 64);
             n[limb + 1] = s % 64 == 0 ? 0 : Limb{k} >> (64 - s % 64);
