@@ -6,9 +6,7 @@
 namespace qel::internal {
 
 void endProcess(char const* reason) noexcept {
-    std::fputs("qel: ", stderr);
-    std::fputs(reason, stderr);
-    std::fputs("\n", stderr);
+    static_cast<void>(std::fprintf(stderr, "qel: %s\n", reason));
     std::abort();
 }
 

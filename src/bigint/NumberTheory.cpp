@@ -188,7 +188,9 @@ bool LargeInteger::invert(LargeInteger const& m) noexcept {
 }
 
 void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) noexcept {
-    LargeInteger const modulus(m);  // m may be this object
+    // m may be this object.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    LargeInteger const modulus(m);
     LargeInteger exponent(e);
     exponent %= modulus;
     LargeInteger base(1);

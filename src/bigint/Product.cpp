@@ -20,6 +20,8 @@ long long nextSetBit(Magnitude a, long long from) noexcept {
 std::size_t productWorkspace(Magnitude a, Magnitude b) noexcept {
     if (a.top < 0 || b.top < 0)
         return 0;
+    // The product's top or the position below it: one out of reach ends before the long work.
+    checkedPosition(static_cast<long long>(a.top) + b.top);
     std::size_t const longer = limbCount(std::max(a.top, b.top));
     std::size_t const shorter = limbCount(std::min(a.top, b.top));
     return 2 * (longer + shorter)

@@ -56,7 +56,7 @@ inline std::size_t limbCount(long long top) noexcept {
 inline void loadLimbs(limbs::Limb* out, std::size_t count, std::uint32_t const* words,
                       int top) noexcept {
     static_assert(std::endian::native == std::endian::little);
-    std::size_t const wordCount = static_cast<std::size_t>(wordIndex(top) + 1);
+    std::size_t const wordCount = static_cast<std::size_t>(wordIndex(top)) + 1;
     for (std::size_t i = wordCount / 2; i < count; ++i)
         out[i] = 0;
     std::memcpy(out, words, wordCount * sizeof *words);
@@ -64,7 +64,7 @@ inline void loadLimbs(limbs::Limb* out, std::size_t count, std::uint32_t const* 
 
 inline void storeWords(std::uint32_t* words, limbs::Limb const* in, int top) noexcept {
     if (top >= 0)
-        std::memcpy(words, in, static_cast<std::size_t>(wordIndex(top) + 1) * sizeof *words);
+        std::memcpy(words, in, (static_cast<std::size_t>(wordIndex(top)) + 1) * sizeof *words);
 }
 
 /// The index of the highest set bit of count limbs, -1 for zero.

@@ -153,7 +153,8 @@ struct Side {
 
 class Reduction {
   public:
-    Reduction(Side first, Side second, std::size_t cofactorLimbs, Limb* limbs) noexcept
+    Reduction(Side const& first, Side const& second, std::size_t cofactorLimbs,
+              Limb* limbs) noexcept
         : a(first), b(second), cofactorCount(cofactorLimbs), scratch(limbs) {}
 
     /// Until one side is zero or both are single limbs.
@@ -187,7 +188,7 @@ class Reduction {
         }
         bool const aIsLess = isLess(a, b);
         Side& larger = aIsLess ? b : a;
-        Side& smaller = aIsLess ? a : b;
+        Side const& smaller = aIsLess ? a : b;
         divide(larger, smaller);
     }
 

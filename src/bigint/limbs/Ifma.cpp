@@ -26,11 +26,11 @@ using Column = __m512i;
 using Lanes [[gnu::vector_size(sizeof(Column))]] = Limb;
 
 QEL_IFMA_INLINE Column load(Limb const* a, int i) noexcept {
-    return _mm512_load_si512(a + 8 * i);
+    return _mm512_load_si512(a + std::ptrdiff_t{8} * i);
 }
 
 QEL_IFMA_INLINE void store(Limb* out, int i, Column column) noexcept {
-    _mm512_store_si512(out + 8 * i, column);
+    _mm512_store_si512(out + std::ptrdiff_t{8} * i, column);
 }
 
 QEL_IFMA_INLINE Column add(Column a, Column b) noexcept {
@@ -105,7 +105,7 @@ QEL_IFMA_INLINE void addSquare(Limb* out, Column const (&a)[block]) noexcept {
     for (int i = 0; i < 2 * block; ++i)
         sums.column[i] = add(sums.column[i], sums.column[i]);
 #pragma GCC unroll 5
-    for (int i = 0; i < block; ++i) {
+    for (std::size_t i = 0; i < digitsPerBlock; ++i) {
         addLow(sums.column[2 * i], a[i], a[i]);
         addHigh(sums.column[2 * i + 1], a[i], a[i]);
     }
@@ -123,7 +123,7 @@ QEL_IFMA_INLINE void loadBlock(Column (&out)[block], Limb const* a) noexcept {
 /// out = y^2, in columns. A block's products with those above it lie in columns that the square
 /// of a higher block has yet to double.
 QEL_IFMA_INLINE void squareColumns(Limb* out, Limb const* y, std::size_t blocks) noexcept {
-    for (std::size_t i = 0; i < 2 * block * blocks; ++i)
+    for (std::size_t i = 0; i < 2 * digitsPerBlock * blocks; ++i)
         store(out, static_cast<int>(i), Column{});
     for (std::size_t i = 0; i < blocks; ++i) {
         Column a[block];
