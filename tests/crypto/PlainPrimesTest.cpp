@@ -1,5 +1,6 @@
 // Verdicts and searches against the plain model, on every path that the processor can take.
 #include "KernelVariants.h"
+#include "Thoroughness.h"
 
 #include "model/PlainPrimes.h"
 #include "qel/PrimesNumber.h"
@@ -46,7 +47,8 @@ class PlainVerdicts : public testing::TestWithParam<int> {};
 
 TEST_P(PlainVerdicts, OfEveryNumberBelowTwoToTheTwentieth) {
     constexpr int width = (1 << 20) / shards;
-    for (int n = GetParam() * width; n < (GetParam() + 1) * width; ++n) {
+    constexpr int distance = thoroughness::cases(1, 5);  // every number, or every fifth
+    for (int n = GetParam() * width; n < (GetParam() + 1) * width; n += distance) {
         expectPlainVerdict(LargeInteger(n), 30);
         if (HasFailure())
             return;
@@ -75,7 +77,7 @@ int roughNumber(std::mt19937& random, int limit) {
 
 TEST_P(PlainVerdicts, OfOddNumbersWithSmallFactors) {
     std::mt19937 random(320U + static_cast<unsigned>(GetParam()));
-    for (int i = 0; i < 25000; ++i) {
+    for (int i = 0; i < thoroughness::cases(25000, 5000); ++i) {
         LargeInteger n(roughNumber(random, 1 << 17));
         switch (random() % 4) {
         case 0:
