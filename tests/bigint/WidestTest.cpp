@@ -66,6 +66,7 @@ TEST(Widest, NothingGrowsBeyond) {
     EXPECT_EXIT(v.setBitRangeAsInt(INT_MAX - 1, 32, 4), aborted, tooWide);
     EXPECT_EXIT(v.ensureSize(1431655764), aborted, tooWide);  // a capacity of 2^31 words
     EXPECT_EXIT(v *= LargeInteger(2), aborted, tooWide);
+    EXPECT_EXIT(v *= v, aborted, tooWide);  // at once: the product would take a minute
     EXPECT_EXIT(v -= -allOnes() - LargeInteger(1), aborted, tooWide);
 }
 
