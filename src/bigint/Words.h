@@ -10,6 +10,9 @@
 
 namespace qel::internal {
 
+// Bit positions are ints, their sums and products long longs.
+static_assert(INT_MAX == 0x7fffffff && sizeof(long long) == 8);
+
 inline constexpr int bitsPerWord = 32;
 
 /// The index of the word that holds bit `position`; -1 for position -1.

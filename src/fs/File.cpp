@@ -44,6 +44,7 @@ bool File::IsFolder(char const* path) noexcept {
 
 long long File::GetSize(char const* path) noexcept {
     struct stat status = {};
+    static_assert(sizeof status.st_size == sizeof(long long));
     return stat(path, &status) == 0 ? status.st_size : 0;
 }
 

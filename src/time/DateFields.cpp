@@ -27,6 +27,7 @@ std::tm internal::ConvertMillisecondsToLocalTime(long long msSinceEpoch) noexcep
     long long const seconds = msSinceEpoch / 1000;
     if (seconds < libraryBegin_s || seconds >= libraryEnd_s)
         return breakDownCivilTime(seconds + offsetOf1971_s() + secondsFromDayZeroToEpoch);
+    static_assert(sizeof(std::time_t) == sizeof(long long));
     std::time_t const time = static_cast<std::time_t>(seconds);
     std::tm fields;
     localtime_r(&time, &fields);

@@ -19,6 +19,9 @@ __extension__ typedef unsigned __int128 DoubleLimb;
 
 inline constexpr int bitsPerLimb = 64;
 
+// The limbs of any number are counted without overflow.
+static_assert(sizeof(std::size_t) == sizeof(Limb));
+
 [[nodiscard]] constexpr Limb upperLimb(DoubleLimb x) noexcept {
     return static_cast<Limb>(x >> bitsPerLimb);
 }

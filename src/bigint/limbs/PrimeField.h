@@ -4,6 +4,8 @@
 
 #include "Limbs.h"
 
+#include <new>
+
 namespace qel::limbs {
 
 /// A factor with the quotient factor * 2^64 / p, rounded down.
@@ -11,6 +13,12 @@ struct Factor {
     Limb value;
     Limb quotient;
 };
+
+/// Factors, not set yet, in the place of twice as many limbs.
+inline Factor* factorsIn(Limb* place, std::size_t count) noexcept {
+    static_assert(sizeof(Factor) == 2 * sizeof(Limb) && alignof(Factor) == alignof(Limb));
+    return new (place) Factor[count];
+}
 
 /// Primes of the form 2^62 - k * 2^32 + 1, and an element of order 2^32.
 struct Prime {

@@ -135,7 +135,7 @@ void convolve(Transform<which> const& engine, Limb* x, Limb const* y, Shape cons
 template <int which>
 void multiplyModulo(Limb* x, Limb* y, Limb* tableMemory, Shape const& shape, Limb const* a,
                     std::size_t aCount, Limb const* b, std::size_t bCount) noexcept {
-    Factor* const table = reinterpret_cast<Factor*>(tableMemory);
+    Factor* const table = factorsIn(tableMemory, shape.nodes());
     Transform<which>::fill(table, shape.nodes());
     Transform<which> const engine(table);
     transform(engine, x, shape, a, aCount);
@@ -276,15 +276,15 @@ Shape cyclicShape(std::size_t least) noexcept {
     }
 }
 
-TransformTables::TransformTables(Limb* limbs, std::size_t count) noexcept
-    : memory(limbs), nodes(count) {
+TransformTables::TransformTables(Limb* place, std::size_t count) noexcept
+    : factors(factorsIn(place, 3 * count)), nodes(count) {
     Transform<0>::fill(table(0), nodes);
     Transform<1>::fill(table(1), nodes);
     Transform<2>::fill(table(2), nodes);
 }
 
 Factor* TransformTables::table(std::size_t which) const noexcept {
-    return reinterpret_cast<Factor*>(memory) + which * nodes;
+    return factors + which * nodes;
 }
 
 void TransformTables::take(Limb* image, Shape const& shape, Limb const* a,

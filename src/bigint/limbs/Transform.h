@@ -43,8 +43,8 @@ Shape cyclicShape(std::size_t least) noexcept;
 /// The factors of the transforms, for every shape of no more nodes.
 class TransformTables {
   public:
-    /// In memory of limbs(nodes).
-    TransformTables(Limb* memory, std::size_t nodes) noexcept;
+    /// In the place of limbs(nodes).
+    TransformTables(Limb* place, std::size_t nodes) noexcept;
     static std::size_t limbs(std::size_t nodes) noexcept { return 6 * nodes; }
 
     /// image[0, shape.imageLimbs()) = the image of a, of at most shape.length limbs.
@@ -56,7 +56,7 @@ class TransformTables {
   private:
     [[nodiscard]] Factor* table(std::size_t which) const noexcept;
 
-    Limb* memory;
+    Factor* factors;
     std::size_t nodes;
 };
 
