@@ -134,7 +134,8 @@ TEST_F(DateFieldsInZone, FarDatesAgreeWithTheCivilCalendarFromYear1To9999) {
     std::mt19937 random(9999);
     long long const firstSecond = -62135596800;  // year 1
     long long const end = 253402300800;          // year 10000
-    for (long long s = firstSecond; s < end; s += 86400 * 29 + random() % 86400) {
+    for (long long s = firstSecond; s < end;
+         s += 86400 * 29 + static_cast<long long>(random() % 86400)) {
         bool const isFromCivilCalendar = s < libraryBegin / 1000 || s >= libraryEnd / 1000;
         if (isFromCivilCalendar) {
             ASSERT_EQ(gottenFrom(Date(s * 1000)), civilFieldsOf(s + zone.on1971_s)) << s;
