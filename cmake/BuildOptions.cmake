@@ -1,5 +1,6 @@
 # What our own builds add to a target: warnings as errors, and the sanitizers of QEL_SANITIZE; where
 # "undefined" is one of them, also conversions that lose something, as far as the compiler can tell.
+# With QEL_COVERAGE, GCC's counters of lines and branches.
 # Nothing of it reaches a program that uses the library.
 set(qel_ignored_conversions "${CMAKE_CURRENT_LIST_DIR}/ignored-conversions.txt")
 
@@ -22,6 +23,10 @@ function(qel_build_options target)
         endif()
         target_compile_options(${target} PRIVATE ${flags})
         target_link_options(${target} PRIVATE ${flags})
+    endif()
+    if(QEL_COVERAGE)
+        target_compile_options(${target} PRIVATE --coverage)
+        target_link_options(${target} PRIVATE --coverage)
     endif()
     set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
 endfunction()
