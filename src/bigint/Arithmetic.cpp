@@ -16,8 +16,7 @@ void LargeInteger::addMagnitude(LargeInteger const& b) noexcept {
     ensureSize(top);
     std::uint64_t sum = 0;
     for (int i = 0; i <= top; ++i) {
-        if (i < size)
-            sum += data[i];
+        sum += data[i];
         if (i < b.size)
             sum += b.data[i];
         data[i] = static_cast<std::uint32_t>(sum);

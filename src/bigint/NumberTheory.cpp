@@ -143,10 +143,8 @@ void LargeInteger::inverseModulo(LargeInteger const& m) noexcept {
         c = d;
         d = difference;
     }
-    if (d.isNegative()) {
-        d %= m;
-        d += m;
-    }
+    // A negative value's remainders change their sign each time, so that all quotients are negative
+    // and all coefficients positive.
     d %= m;
     swapWith(d);
 }

@@ -12,9 +12,9 @@ long long nextSetBit(Magnitude a, long long from) noexcept {
         return -1;
     int i = wordIndex(from);
     std::uint32_t word = a.words[i] & (~std::uint32_t{0} << (from % bitsPerWord));
-    while (word == 0 && i < wordIndex(a.top))
+    while (word == 0)  // the bit a.top is set
         word = a.words[++i];
-    return word == 0 ? -1 : static_cast<long long>(i) * bitsPerWord + std::countr_zero(word);
+    return static_cast<long long>(i) * bitsPerWord + std::countr_zero(word);
 }
 
 std::size_t productWorkspace(Magnitude a, Magnitude b) noexcept {

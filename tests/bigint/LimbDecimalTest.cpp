@@ -85,6 +85,7 @@ TEST(LimbDecimal, ReadsBackWhatItWrites) {
     for (std::size_t i = 1; i <= 3 * decimalInSplit; ++i)
         counts.push_back(i);
     counts.insert(counts.end(), {1000, 1999, 2600, 4100});  // powers long enough for transforms
+    counts.push_back(7500);  // its first split is at a power that fills its limbs to the last bit
     for (std::size_t count : counts) {
         Limbs value = operands.any(count);
         std::string const digits = decimal(value, decimalGroups(count));

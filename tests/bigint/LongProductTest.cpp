@@ -93,6 +93,16 @@ TEST(LongProduct, LongerOperandsAreSliced) {
     }
 }
 
+TEST(LongProduct, TransformsOfANumberAndItsOwnLowerPart) {
+    Limbs const a = Operands(8).any(300);
+    Limbs const lower(a.begin(), a.begin() + 200);
+    Fenced out(500);
+    Fenced scratch(transformScratch(300, 200));
+    multiplyByTransform(out.data(), a.data(), 300, a.data(), 200, scratch.data());
+    EXPECT_EQ(out.values(), byRows(a, lower));
+    EXPECT_TRUE(out.intact() && scratch.intact());
+}
+
 TEST(LongProduct, TransformsOfEveryShortLength) {
     Operands operands(3);
     for (std::size_t aCount = 1; aCount <= 80; ++aCount) {

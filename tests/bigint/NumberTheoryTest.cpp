@@ -85,6 +85,23 @@ TEST(GreatestCommonDivisor, OfTwoNegativesIsNegativeAndLeavesAPlainZero) {
     EXPECT_EQ(LargeInteger(-12).findGreatestCommonDivisor(LargeInteger(-18)), LargeInteger(-6));
 }
 
+// The plain steps end where one divides the other; most other pairs of two signs never do.
+TEST(GreatestCommonDivisor, OfNegativesFarApartHasTheSignOfTheSmallerOne) {
+    for (int apart : {17, 18, 40, 200}) {
+        for (auto const& [large, small] : {std::pair(-1, 3), {1, -3}, {-1, -3}}) {
+            LargeInteger const multiple = LargeInteger(9 * large) << apart;
+            LargeInteger const divisor(small);
+            plain::LargeInteger slow(9 * large);
+            slow <<= apart;
+            slow = slow.findGreatestCommonDivisor(plain::LargeInteger(small));
+            for (LargeInteger const& fast : {gcd(multiple, divisor), gcd(divisor, multiple)}) {
+                EXPECT_EQ(fast, divisor) << large << ' ' << small << ' ' << apart;
+                EXPECT_EQ(books(fast), (Books{slow.size, slow.highestBit, slow.negative}));
+            }
+        }
+    }
+}
+
 TEST(GreatestCommonDivisor, LeavesTheObjectAndMayTakeItAsOperand) {
     LargeInteger const v(36);
     EXPECT_EQ(v.findGreatestCommonDivisor(LargeInteger(48)), LargeInteger(12));

@@ -35,13 +35,8 @@ class Transform {
     }
 
     /// Reduces modulo all factors of x^size - c, where c belongs to `node`: 1 for node 0, i for
-    /// node 2. In: below 4p; out: below 4p.
+    /// node 2; size >= 4. In: below 4p; out: below 4p.
     void forward(Limb* x, std::size_t size, std::size_t node) const noexcept {
-        if (size <= 2) {
-            if (size == 2)
-                split(x, 1, node);
-            return;
-        }
         if (size > depthFirst) {
             splitTwice(x, size / 4, node);
             for (std::size_t i = 0; i < 4; ++i)
@@ -62,11 +57,6 @@ class Transform {
 
     /// Undoes `forward`, times size. In: below 2p; out: below 2p.
     void backward(Limb* x, std::size_t size, std::size_t node) const noexcept {
-        if (size <= 2) {
-            if (size == 2)
-                join(x, 1, node);
-            return;
-        }
         if (size > depthFirst) {
             for (std::size_t i = 0; i < 4; ++i)
                 backward(x + i * (size / 4), size / 4, 4 * node + i);

@@ -63,9 +63,9 @@ class Residue {
 /// One step of Newton's iteration: with the upper limbs of a and of X known, the `lower` ones.
 ///
 /// For the upper part Y = B^h + y of X, before its correction, a Y is less than 2 B^n away from
-/// B^(n + h), so that n + 3 limbs tell the difference E, signed. At most 4 times it is not above 0,
-/// and Y is too large. Then the lower part is that of E Y / B^(2 h), for which the limbs of E from
-/// `lower` on are enough.
+/// B^(n + h), so that n + 3 limbs tell the difference E, signed. At most 4 times it is below 0, and
+/// Y is too large; it is never 0, since a < B^n and Y < 2 B^h. Then the lower part is that of
+/// E Y / B^(2 h), for which the limbs of E from `lower` on are enough.
 void refine(Limb* x, Limb const* a, std::size_t count, std::size_t lower, Limb* scratch) noexcept {
     std::size_t const upper = count - lower;
     Shape const shape = cyclicShape(count + 3);
@@ -84,7 +84,7 @@ void refine(Limb* x, Limb const* a, std::size_t count, std::size_t lower, Limb* 
     difference.subtractFromPower(count + upper);
     difference.settle();
     Limb tooLarge = 0;
-    for (; isNegative(e[count]) || significant(e, count + 1) == 0; ++tooLarge)
+    for (; isNegative(e[count]); ++tooLarge)
         e[count] += add(e, e, a, count);
 
     Limb const* const leading = e + lower;
@@ -160,13 +160,13 @@ class BlockDivision {
     }
 
   private:
-    /// From the upper limbs of the dividend.
+    /// From the upper limbs R of the dividend. They are at most the divisor's d, and X is at most
+    /// (B^(2k) - 1) / d, so that R X / B^k is below B^k: the sum does not carry.
     void estimate(Limb* quotient, Limb const* upper, std::size_t places) const noexcept {
         tables.take(image, estimates, upper, digits);
         tables.multiply(product, estimates, image, inverseImage);
         Limb* const high = product + digits;
-        if (add(high, high, upper, digits) != 0)
-            std::fill(high, high + digits, ~Limb{0});
+        add(high, high, upper, digits);
         std::copy(high + digits - places, high + digits, quotient);
     }
 

@@ -71,7 +71,9 @@ Matrix limbSteps(Limb a, Limb b, Limb least) noexcept {
 ///
 /// First on their upper halves: as above, those stay at 2^32 or above and entries below 2^32. Then
 /// on what that leaves, a and b with their lower `shift` bits cut off. What these bits change is
-/// less than 2^32 2^shift, and so the results stay at 2^64 or above.
+/// less than 2^32 2^shift, and so the results stay at 2^64 or above. The shift is above 32: the
+/// lower halves cannot make both sides smaller, for times m00 and m01 the changes add up to the
+/// lower half of a.
 Matrix leadingSteps(DoubleLimb a, DoubleLimb b) noexcept {
     constexpr Limb half = Limb{1} << 32;
     Matrix const first = limbSteps(upperLimb(a), upperLimb(b), half);
@@ -80,8 +82,6 @@ Matrix leadingSteps(DoubleLimb a, DoubleLimb b) noexcept {
     DoubleLimb const restA = first.m11 * a - first.m01 * b;
     DoubleLimb const restB = first.m00 * b - first.m10 * a;
     int const shift = bitsPerLimb - std::countl_zero(upperLimb(std::max(restA, restB)));
-    if (shift < bitsPerLimb / 2)
-        return first;
     Limb const least = half + (Limb{1} << (bitsPerLimb - shift));
     return first
            * limbSteps(static_cast<Limb>(restA >> shift), static_cast<Limb>(restB >> shift), least);

@@ -151,7 +151,8 @@ class Accumulator {
   public:
     Accumulator(Limb* result, std::size_t limbCount) noexcept : out(result), count(limbCount) {}
 
-    /// Adds value * 2^position, where positions rise and the limbs below are final.
+    /// Adds value * 2^position, where positions rise and the limbs below are final. A position lies
+    /// in the limbs of the result.
     void add(Limb const (&value)[3], std::size_t position) noexcept {
         for (std::size_t const limb = position / bitsPerLimb; done < limb;)
             emit();
@@ -184,9 +185,7 @@ class Accumulator {
 
   private:
     void emit() noexcept {
-        if (done < count)
-            out[done] = sum[0];
-        ++done;
+        out[done++] = sum[0];
         sum = {sum[1], sum[2], sum[3], 0};
     }
 

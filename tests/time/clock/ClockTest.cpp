@@ -23,7 +23,7 @@ void withFreshClock(Steps steps) {
     auto const runAndLeave = [&steps] {
         script = {};
         steps();
-        std::_Exit(testing::Test::HasFailure() ? 1 : 0);
+        std::exit(testing::Test::HasFailure() ? 1 : 0);
     };
     EXPECT_EXIT(runAndLeave(), testing::ExitedWithCode(0), "");
 }

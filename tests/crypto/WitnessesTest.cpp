@@ -1,0 +1,63 @@
+// The first of several numbers that passes with every witness, on every path.
+#include "KernelVariants.h"
+
+#include "crypto/Witnesses.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <vector>
+
+namespace {
+
+using namespace limb_test;
+using qel::internal::findPassing;
+using qel::internal::witnessScratch;
+using qel::limbs::Limb;
+using Number = std::array<Limb, 2>;
+
+/// Number k is p (2p - 1) for a prime p, and a strong probable prime to the first k odd primes but
+/// not to the one after; the last is a prime.
+constexpr std::array<Number, 6> numbers{{{0x0000026600002e05, 8},
+                                         {0x00007cd601e70017, 8},
+                                         {0x00015e960f00f3ff, 8},
+                                         {0x000a1f3933a030fb, 8},
+                                         {0x000185f612902c43, 8},
+                                         {0x0000000000000003, 8}}};
+
+/// Of the numbers from `first` on, and before `end`.
+int firstPassing(std::size_t first, std::size_t end, int witnessCount) {
+    std::vector<Limb const*> candidates;
+    for (std::size_t i = first; i < end; ++i)
+        candidates.push_back(numbers[i].data());
+    std::vector<Limb> scratch(witnessScratch(2));
+    return findPassing(candidates, 2, witnessCount, scratch.data());
+}
+
+TEST(Witnesses, RefuseWhatPassesWithTheFirstOnesOnly) {
+    for (Variant const& variant : paths()) {
+        Using const use(variant);
+        for (int witnessCount = 0; witnessCount <= 5; ++witnessCount)
+            EXPECT_EQ(firstPassing(0, 6, witnessCount), witnessCount) << variant.name;
+        for (int witnessCount : {6, 30})
+            EXPECT_EQ(firstPassing(0, 6, witnessCount), 5) << variant.name << witnessCount;
+    }
+}
+
+TEST(Witnesses, FindNothingWhereNoneIsPrime) {
+    for (Variant const& variant : paths()) {
+        Using const use(variant);
+        for (int witnessCount : {5, 6, 8, 9, 10, 17})
+            EXPECT_EQ(firstPassing(0, 5, witnessCount), -1) << variant.name << witnessCount;
+    }
+}
+
+TEST(Witnesses, FindTheFirstOfSeveral) {
+    for (Variant const& variant : paths()) {
+        Using const use(variant);
+        EXPECT_EQ(firstPassing(3, 6, 2), 0) << variant.name;
+        EXPECT_EQ(firstPassing(2, 6, 4), 2) << variant.name;
+    }
+}
+
+}  // namespace
