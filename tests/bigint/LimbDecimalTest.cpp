@@ -53,6 +53,12 @@ std::vector<std::size_t> lengths() {
     return all;
 }
 
+TEST(LimbDecimal, GroupsAreEnoughForTheLargestNumber) {
+    // log2(10^19) is above 63.1166, so that a number of 64 * count bits is below 10^(19 groups).
+    for (std::size_t count = 1; count <= 100000; ++count)
+        ASSERT_GE(decimalGroups(count) * 631166, count * 640000) << count;
+}
+
 TEST(LimbDecimal, WritesWhatSingleDigitsWouldBe) {
     Operands operands(1);
     for (std::size_t count : lengths()) {

@@ -162,12 +162,14 @@ TEST(LongDivision, TheMethodChangesWhereDigitsAndDivisorAreBothLong) {
 
 // --- reciprocals --------------------------------------------------------------------------------
 
+using ReciprocalKernel = void (*)(Limb*, Limb const*, std::size_t, Limb*);
+
 /// a X < B^(2 n) <= a (X + 2) for X = B^n + x.
-void expectReciprocal(Limbs const& a) {
+void expectReciprocal(Limbs const& a, ReciprocalKernel kernel = reciprocal) {
     std::size_t const count = a.size();
     Fenced x(count);
     Fenced scratch(reciprocalScratch(count));
-    reciprocal(x.data(), a.data(), count, scratch.data());
+    kernel(x.data(), a.data(), count, scratch.data());
     ASSERT_TRUE(x.intact() && scratch.intact()) << text(a);
     Limbs product(2 * count + 1);
     std::copy(a.begin(), a.end(), product.begin() + static_cast<std::ptrdiff_t>(count));
@@ -195,6 +197,17 @@ TEST(Reciprocal, IsTooSmallByLessThanTwo) {
         Limbs smallest = with(Limbs(count - 1), topBit);
         smallest[0] = 1;
         expectReciprocal(smallest);
+    }
+}
+
+// What the upper part of the divisor gives is often too large for the whole of it.
+TEST(Reciprocal, ByNewtonIsTooSmallByLessThanTwoForShortNumbers) {
+    Operands operands(5);
+    for (std::size_t count = 3; count <= 40; ++count) {
+        for (int i = 0; i < 20; ++i) {
+            for (Pattern pattern : patterns)
+                expectReciprocal(normalized(count, pattern, operands), reciprocalByNewton);
+        }
     }
 }
 

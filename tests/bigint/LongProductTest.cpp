@@ -103,6 +103,14 @@ TEST(LongProduct, TransformsOfANumberAndItsOwnLowerPart) {
     EXPECT_TRUE(out.intact() && scratch.intact());
 }
 
+// 22019 limbs are 16579 coefficients of 85 bits and one of a single bit.
+TEST(LongProduct, TransformsTakeACoefficientOfTheHighestBitAlone) {
+    constexpr std::size_t count = 22019;
+    Limbs a = Operands(9).any(count);
+    a.back() |= topBit;
+    expectProduct(multiplyByTransform, transformScratch, a, Limbs(count, allOnes));
+}
+
 TEST(LongProduct, TransformsOfEveryShortLength) {
     Operands operands(3);
     for (std::size_t aCount = 1; aCount <= 80; ++aCount) {

@@ -42,6 +42,8 @@ CONDITION = re.compile(r"\b(if|while) \((.*)\)( \{)?$")
 # A call or an assignment, not a declaration and not a jump.
 STATEMENT = re.compile(r"^\s+(?!return|using|break|continue|throw|goto|default|case|delete)"
                        r"[\w.:>*\[\]()-]+( [-+*/%&|^<>]*= .*|\(.*\))?;$")
+# The head of a function that tells how much room something takes. To ask for more is as right.
+ROOM = re.compile(r"\bsize_t [\w:]*\b(\w*[sS]cratch|\w*Workspace|room)\([^()]*\) (const )?noexcept \{$")
 LEFT_OUT = re.compile(r"^\s*(#|//|\*|static_assert|assert|template|namespace|using |class |struct )")
 
 
@@ -99,8 +101,21 @@ def changes_of_line(line):
         yield "deleted", re.match(r"\s*", line).group() + ";"
 
 
+def asks_for_more(kind, old, new):
+    if kind == "number":
+        numbers = [[int(n, 0) for n in NUMBER.findall(line)] for line in (old, new)]
+        return numbers[0] < numbers[1] and " < " not in old and " - " not in old
+    return kind == "operator" and new.count(" + ") > old.count(" + ") and " - " in old
+
+
 def sites_of(file, text):
     lines = text.split("\n")
+    room = None  # the indentation of such a function
     for number, line in enumerate(lines):
+        if ROOM.search(line):
+            room = re.match(r" *", line).group()
+        elif line == f"{room}}}":
+            room = None
         for kind, new in changes_of_line(line):
-            yield Site(file, number, kind, line, new)
+            if room is None or not asks_for_more(kind, line, new):
+                yield Site(file, number, kind, line, new)
