@@ -91,13 +91,23 @@ TEST(LimbDecimal, ReadsBackWhatItWrites) {
     for (std::size_t i = 1; i <= 3 * decimalInSplit; ++i)
         counts.push_back(i);
     counts.insert(counts.end(), {1000, 1999, 2600, 4100});  // powers long enough for transforms
-    counts.push_back(7500);  // its first split is at a power that fills its limbs to the last bit
     for (std::size_t count : counts) {
         Limbs value = operands.any(count);
         std::string const digits = decimal(value, decimalGroups(count));
         value.resize(decimalGroups(count));
         ASSERT_EQ(parsed(digits), value) << digits;
     }
+}
+
+// 10^(19 * 3840), at which 7500 limbs are split, has a multiple of 64 zero bits at the end when its
+// highest bit is that of a limb.
+TEST(LimbDecimal, SplitsAtAPowerThatFillsItsLimbs) {
+    constexpr std::size_t count = 7500;
+    Limbs value = Operands(4).any(count);
+    value.back() |= topBit;
+    std::string const digits = decimal(value, decimalGroups(count));
+    value.resize(decimalGroups(count));
+    ASSERT_EQ(parsed(digits), value) << digits;
 }
 
 TEST(LimbDecimal, ReadsTheLargestNumberOfEveryLength) {

@@ -12,6 +12,7 @@ namespace {
 
 using namespace limb_test;
 using qel::internal::findPassing;
+using qel::internal::numbersAtOnce;
 using qel::internal::witnessScratch;
 using qel::limbs::Limb;
 using Number = std::array<Limb, 2>;
@@ -49,6 +50,17 @@ TEST(Witnesses, FindNothingWhereNoneIsPrime) {
         Using const use(variant);
         for (int witnessCount : {5, 6, 8, 9, 10, 17})
             EXPECT_EQ(firstPassing(0, 5, witnessCount), -1) << variant.name << witnessCount;
+    }
+}
+
+TEST(Witnesses, TakeEightNumbersAtOnceFrom2To800LimbsWhereThatPays) {
+    for (Variant const& variant : paths()) {
+        Using const use(variant);
+        std::size_t const most = variant.lanes->pays ? 8 : 1;
+        EXPECT_EQ(numbersAtOnce(1), 1U) << variant.name;
+        EXPECT_EQ(numbersAtOnce(2), most) << variant.name;
+        EXPECT_EQ(numbersAtOnce(800), most) << variant.name;
+        EXPECT_EQ(numbersAtOnce(801), 1U) << variant.name;
     }
 }
 

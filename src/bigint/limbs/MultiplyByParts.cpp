@@ -240,7 +240,7 @@ void multiplyByParts(Limb* out, Limb const* a, Limb const* b, std::size_t count,
 // on.
 std::size_t partsScratch(std::size_t count) noexcept {
     static_assert(std::min({thirdsMultiply, thirdsSquare}) >= 15);
-    return count < std::min(halvesMultiply, halvesSquare) ? 0 : 4 * count;
+    return 4 * count;
 }
 
 }  // namespace qel::limbs
