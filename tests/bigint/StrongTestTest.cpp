@@ -123,4 +123,50 @@ TEST(StrongTest, RefusesAWitnessThatTheNumberDivides) {
     EXPECT_FALSE(qel::limbs::StrongTest(&prime, 1, scratch.data()).passes(prime));
 }
 
+// --- primes -------------------------------------------------------------------------------------
+
+// The primes next to 2^65, 2^66, ... 2^192: their distances from there.
+constexpr int firstExponent = 65;
+constexpr std::uint16_t distancesBelow[] = {
+    49, 5,   19,  23,  19,  35,  231, 93,  69,  35,  97,  15, 33, 11,  67,  65,  51,  57,  55,
+    35, 19,  35,  67,  299, 1,   33,  45,  83,  25,  3,   15, 17, 141, 51,  115, 15,  69,  33,
+    97, 17,  13,  117, 1,   59,  31,  21,  37,  75,  133, 11, 67, 3,   279, 5,   69,  119, 73,
+    3,  67,  59,  9,   137, 1,   159, 25,  5,   69,  347, 99, 45, 45,  113, 13,  105, 187, 27,
+    9,  111, 69,  83,  151, 153, 145, 167, 31,  3,   195, 17, 69, 243, 31,  143, 19,  15,  91,
+    47, 159, 101, 55,  63,  25,  5,   135, 257, 643, 143, 19, 95, 55,  3,   229, 233, 339, 41,
+    49, 47,  165, 161, 147, 33,  303, 371, 85,  125, 25,  11, 19, 237};
+constexpr std::uint16_t distancesAbove[] = {
+    131, 9,   3,   33,  29,  25,  11,  15,  29,  37,  33,  15,  11,  7,   23, 13,  17,  9,   75,
+    3,   171, 27,  39,  7,   29,  133, 59,  25,  105, 129, 9,   61,  105, 7,  255, 277, 81,  267,
+    81,  111, 39,  99,  39,  33,  147, 27,  51,  25,  281, 43,  71,  33,  29, 25,  9,   451, 41,
+    277, 165, 67,  27,  7,   29,  51,  17,  169, 39,  67,  27,  27,  33,  85, 155, 87,  155, 37,
+    5,   217, 5,   175, 27,  85,  51,  91,  69,  147, 45,  253, 95,  27,  15, 45,  69,  97,  299,
+    7,   107, 19,  21,  117, 141, 85,  83,  87,  147, 49,  129, 105, 77,  7,  9,   427, 75,  87,
+    309, 15,  165, 49,  215, 27,  159, 205, 303, 57,  35,  129, 5,   133};
+
+// A composite fails whatever becomes of its powers; a prime passes only if all of them are right.
+void expectEveryWitnessPasses(LargeInteger const& prime) {
+    Limbs n;
+    for (LargeInteger rest = prime; !rest.isZero(); rest >>= 64)
+        n.push_back(static_cast<Limb>(static_cast<unsigned int>(rest.getBitRangeAsInt(32, 32)))
+                        << 32
+                    | static_cast<unsigned int>(rest.getBitRangeAsInt(0, 32)));
+    std::vector<Limb> scratch(qel::limbs::strongTestScratch(n.size()));
+    for (Variant const& variant : variants()) {
+        Using const use(variant);
+        qel::limbs::StrongTest test(n.data(), n.size(), scratch.data());
+        for (Limb const witness : everyWindow)
+            EXPECT_TRUE(test.passes(witness)) << variant.name << ' ' << text(n) << ' ' << witness;
+    }
+}
+
+TEST(StrongTest, PrimesNextToPowersOfTwoPassWithEveryWitness) {
+    int exponent = firstExponent;
+    for (std::size_t i = 0; i < std::size(distancesBelow); ++i, ++exponent) {
+        LargeInteger const power = LargeInteger(1) << exponent;
+        expectEveryWitnessPasses(power - LargeInteger(static_cast<int>(distancesBelow[i])));
+        expectEveryWitnessPasses(power + LargeInteger(static_cast<int>(distancesAbove[i])));
+    }
+}
+
 }  // namespace
