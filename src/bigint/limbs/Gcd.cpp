@@ -81,8 +81,9 @@ Matrix leadingSteps(DoubleLimb a, DoubleLimb b) noexcept {
         return first;
     DoubleLimb const restA = first.m11 * a - first.m01 * b;
     DoubleLimb const restB = first.m00 * b - first.m10 * a;
-    int const shift = bitsPerLimb - std::countl_zero(upperLimb(std::max(restA, restB)));
-    Limb const least = half + (Limb{1} << (bitsPerLimb - shift));
+    int const zeros = std::countl_zero(upperLimb(std::max(restA, restB)) | half);
+    int const shift = bitsPerLimb - zeros;
+    Limb const least = half + (Limb{1} << zeros);
     return first
            * limbSteps(static_cast<Limb>(restA >> shift), static_cast<Limb>(restB >> shift), least);
 }
