@@ -110,6 +110,16 @@ TEST(LimbDecimal, SplitsAtAPowerThatFillsItsLimbs) {
     ASSERT_EQ(parsed(digits), value) << digits;
 }
 
+// 7440 groups are split at 3840, 1920, 960 and 480 of them, which leaves 240, the next power's own.
+TEST(LimbDecimal, WritesALeadingPartOfJustThePowersGroups) {
+    constexpr std::size_t groups = 7440;
+    std::string const nines(groups * digitsPerGroup, '9');
+    Limbs value = parsed(nines);
+    while (value.back() == 0)
+        value.pop_back();
+    ASSERT_EQ(decimal(value, groups), nines);
+}
+
 TEST(LimbDecimal, ReadsTheLargestNumberOfEveryLength) {
     for (std::size_t groups : lengths()) {
         for (std::size_t missing : {0U, 1U, 18U}) {
