@@ -136,8 +136,8 @@ void readBits(LimbFiller& out, std::string_view text) noexcept {
 /// The capacity that shifting by a digit and adding it, once for each, makes of `size`.
 ///
 /// It follows from the last top alone: the first digit that is not 0 has a top below `bits`, and
-/// each one after it raises the top by `bits`. The shift then visits the word above that of the
-/// top, the sum the word above that of the bit above the top.
+/// each one after it raises the top by `bits`. The sum then visits the word above that of the bit
+/// above the top, the shift before it none that is higher.
 int capacityAfterDigits(int size, int top, int bits) noexcept {
     for (;;) {
         // From this top on the sum visits a word two below the capacity, or higher.
@@ -145,7 +145,6 @@ int capacityAfterDigits(int size, int top, int bits) noexcept {
         if (top < from)
             return size;
         long long const growing = from + (top - from) % bits;
-        size = grownSize(size, wordIndex(growing) + 1);
         size = grownSize(size, wordIndex(growing + 1) + 1);
     }
 }

@@ -174,6 +174,14 @@ TEST(Arithmetic, MultiplyingByOneLeavesAFreshBuffer) {
     EXPECT_EQ(books(one), (Books{4, 3, false}));
 }
 
+TEST(Arithmetic, OneTimesAVeryWideNumberIsThatNumber) {
+    LargeInteger const wide = powerOfTwo(100000) + LargeInteger(5);
+    EXPECT_EQ(LargeInteger(1) * wide, wide);
+    EXPECT_EQ(wide * LargeInteger(1), wide);
+    EXPECT_TRUE((wide * LargeInteger(0)).isZero());
+    EXPECT_TRUE((LargeInteger(0) * wide).isZero());
+}
+
 TEST(Arithmetic, BinaryOperatorsReturnTightCopiesWithExactBounds) {
     LargeInteger const a = powerOfTwo(64);
     LargeInteger const b = powerOfTwo(64) - LargeInteger(1);

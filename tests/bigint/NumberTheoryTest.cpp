@@ -77,6 +77,21 @@ TEST(GreatestCommonDivisor, UsesUpTheOperandsOfTheSubtractiveForm) {
     EXPECT_TRUE(a.isZero() != b.isZero());
 }
 
+TEST(GreatestCommonDivisor, LeavesTheOperandsOfTheSubtractiveFormAsThePlainStepsDo) {
+    for (int i = 0; i <= 40; ++i) {
+        for (int j = 1; j <= 40; ++j) {
+            LargeInteger a(i);
+            LargeInteger b(j);
+            plain::LargeInteger slowA(i);
+            plain::LargeInteger slowB(j);
+            (void)LargeInteger::simpleGCD(&a, &b);
+            (void)plain::LargeInteger::simpleGCD(&slowA, &slowB);
+            EXPECT_EQ(a.toString(10), slowA.toString(10)) << i << ' ' << j;
+            EXPECT_EQ(b.toString(10), slowB.toString(10)) << i << ' ' << j;
+        }
+    }
+}
+
 TEST(GreatestCommonDivisor, OfTwoNegativesIsNegativeAndLeavesAPlainZero) {
     LargeInteger a(-12);
     LargeInteger b(-18);
