@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace {
 
 using qel::Date;
@@ -14,6 +16,11 @@ struct Row {
     int year;
     bool isValid;
 };
+
+/// GoogleTest's own way prints every byte, those that are set by nobody too.
+void PrintTo(Row const& row, std::ostream* out) {
+    *out << row.text;
+}
 
 class DayMonthYear : public testing::TestWithParam<Row> {};
 
