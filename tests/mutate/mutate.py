@@ -52,13 +52,23 @@ def read(path):
         return file.read()
 
 
+def choices_of(tree):
+    """Pairs of a path and a part of a line."""
+    for line in read(os.path.join(tree, "tests", "mutate", "choices.txt")).decode().splitlines():
+        if not line.startswith("#"):
+            yield tuple(line.split(": ", 1))
+
+
 def all_sites(tree):
+    choices = list(choices_of(tree))
     for place, folders, names in os.walk(os.path.join(tree, "src")):
         folders.sort()
         for name in sorted(names):
             file = os.path.relpath(os.path.join(place, name), tree)
             if name.endswith((".cpp", ".h")) and not file.endswith(LEFT_OUT):
-                yield from sites_of(file, read(os.path.join(tree, file)).decode())
+                for site in sites_of(file, read(os.path.join(tree, file)).decode()):
+                    if not any(file == path and part in site.old for path, part in choices):
+                        yield site
 
 
 class Runner:

@@ -45,9 +45,8 @@ class DivisionContext {
         if (shift != 0)
             product[2 * count] = shiftLeft(product, product, 2 * count, shift);
         if (count == 1) {
-            Limb const top = divideLimb(quotient, product + 1, 2, divisor[0]);
-            Limb const rest[2] = {product[0], top};
-            out[0] = divideLimb(quotient, rest, 2, divisor[0]) >> shift;
+            // As the modulus times its shifted self, the product is below 2^128.
+            out[0] = divideLimb(quotient, product, 2, divisor[0]) >> shift;
             return;
         }
         divideNormalized(quotient, product, 2 * count + 1, divisor, count);
