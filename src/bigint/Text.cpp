@@ -137,7 +137,7 @@ void readBits(LimbFiller& out, std::string_view text) noexcept {
 ///
 /// It follows from the last top alone: the first digit that is not 0 has a top below `bits`, and
 /// each one after it raises the top by `bits`. The sum then visits the word above that of the bit
-/// above the top, the shift before it none that is higher.
+/// above the top; the shift before it visits no higher one, and where it is lower, nothing grows.
 int capacityAfterDigits(int size, int top, int bits) noexcept {
     for (;;) {
         // From this top on the sum visits a word two below the capacity, or higher.

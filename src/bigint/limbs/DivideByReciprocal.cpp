@@ -64,8 +64,8 @@ class Residue {
 ///
 /// For the upper part Y = B^h + y of X, before its correction, a Y is less than 2 B^n away from
 /// B^(n + h), so that n + 3 limbs tell the difference E, signed. At most 4 times it is below 0, and
-/// Y is too large; it is never 0, since a < B^n and Y < 2 B^h. Then the lower part is that of
-/// E Y / B^(2 h), for which the limbs of E from `lower` on are enough.
+/// Y is too large; it is never 0, as then a and Y would be powers of two, Y = B^h and a = B^n. Then
+/// the lower part is that of E Y / B^(2 h), for which the limbs of E from `lower` on are enough.
 void refine(Limb* x, Limb const* a, std::size_t count, std::size_t lower, Limb* scratch) noexcept {
     std::size_t const upper = count - lower;
     Shape const shape = cyclicShape(count + 3);

@@ -71,9 +71,9 @@ Matrix limbSteps(Limb a, Limb b, Limb least) noexcept {
 ///
 /// First on their upper halves: as above, those stay at 2^32 or above and entries below 2^32. Then
 /// on what that leaves, a and b with their lower `shift` bits cut off. What these bits change is
-/// less than 2^32 2^shift, and so the results stay at 2^64 or above. The shift is above 32: the
-/// lower halves cannot make both sides smaller, for times m00 and m01 the changes add up to the
-/// lower half of a.
+/// less than 2^32 2^shift, and so the results stay at 2^64 or above. The shift is above 32, as the
+/// lower halves do not make both sides smaller: m00 times the change of a plus m01 times that of b
+/// is the lower half of a. (`half` below says so to tools that read the code.)
 Matrix leadingSteps(DoubleLimb a, DoubleLimb b) noexcept {
     constexpr Limb half = Limb{1} << 32;
     Matrix const first = limbSteps(upperLimb(a), upperLimb(b), half);

@@ -45,7 +45,7 @@ class DivisionContext {
         if (shift != 0)
             product[2 * count] = shiftLeft(product, product, 2 * count, shift);
         if (count == 1) {
-            // As the modulus times its shifted self, the product is below 2^128.
+            // Below the modulus times the shifted modulus, and so below 2^128.
             out[0] = divideLimb(quotient, product, 2, divisor[0]) >> shift;
             return;
         }
