@@ -183,9 +183,11 @@ class Mutation:
         return "survived"
 
     def compile(self, site):
-        """The objects that differ, by their sources."""
+        """The objects that differ, by their sources: tests include headers of the library too."""
+        programs = {stage[0] for stage in STAGES[folder_of(site.file)]}
+        tests = {part for program in programs for part in self.builder.parts_of(program)}
         objects = {}
-        for source in self.builder.library:
+        for source in self.builder.library + sorted(tests):
             if not self.builder.depends_on(source, site.file):
                 continue
             target = os.path.join(self.out, f"mutant-{len(objects)}.o")

@@ -107,8 +107,7 @@ class Builder:
         return ""
 
     def link(self, program, target, mutated):
-        """`mutated` maps sources to objects that stand for theirs. The library comes first: of
-        inline functions in several objects the linker keeps the first."""
+        """`mutated` maps sources to objects that stand for theirs."""
         left_out = PROGRAMS[program].get("replaces", "none")
         sources = [s for s in self.library if not s.startswith(left_out)] + self.parts_of(program)
         objects = [mutated.get(s, self.object_of(s)) for s in sources]
