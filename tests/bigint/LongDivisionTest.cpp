@@ -211,4 +211,37 @@ TEST(Reciprocal, ByNewtonIsTooSmallByLessThanTwoForShortNumbers) {
     }
 }
 
+/// floor(sqrt(a)), for an even number of limbs.
+Limbs squareRoot(Limbs const& a) {
+    Limbs root(a.size() / 2);
+    for (std::size_t bit = 64 * root.size(); bit-- > 0;) {
+        Limb const one = Limb{1} << (bit % 64);
+        root[bit / 64] += one;
+        if (less(a, product(root, root)))
+            root[bit / 64] -= one;
+    }
+    return root;
+}
+
+/// B^n / 2 + c for c = floor(sqrt(m B^n / 8)) - m: B^2n / a is 2 B^n - 4 c + m less very little.
+Limbs divisorOfNearlyWhole(std::size_t count, Limb m) {
+    Limbs square(count + 1 + (count + 1) % 2);
+    square[count - 1] = m << 61;
+    square[count] = m >> 3;
+    Limbs a = squareRoot(square);
+    subtractLimb(a.data(), a.data(), a.size(), m);
+    a.resize(count);
+    a.back() += topBit;
+    return a;
+}
+
+// The upper part counts in the lower one as it is after its correction, or a lower part that is
+// nearly whole comes out as the next whole number.
+TEST(Reciprocal, ByNewtonIsNotTooLargeForQuotientsThatAreNearlyWhole) {
+    for (std::size_t count = 5; count <= 9; ++count) {
+        for (Limb m = 2; m <= 100; ++m)
+            expectReciprocal(divisorOfNearlyWhole(count, m), reciprocalByNewton);
+    }
+}
+
 }  // namespace
