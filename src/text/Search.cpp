@@ -10,8 +10,8 @@ namespace qel {
 
 namespace {
 
-constexpr std::array<std::string_view, 8> booleanWords = {"True",  "true",  "TRUE", "False",
-                                                          "false", "FALSE", "0",    "1"};
+constexpr auto booleanWords =
+    std::to_array<std::string_view>({"True", "true", "TRUE", "False", "false", "FALSE", "0", "1"});
 
 /// The no-position value of a search becomes -1.
 int asIndex(std::size_t position) noexcept {

@@ -12,8 +12,8 @@ namespace qel {
 
 namespace {
 
-constexpr std::array<std::string_view, 12> monthNames = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                         "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+constexpr auto monthNames = std::to_array<std::string_view>(
+    {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"});
 
 constexpr unsigned int buildDateLength = 11;
 

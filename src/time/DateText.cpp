@@ -12,11 +12,12 @@ namespace qel {
 
 namespace {
 
-constexpr std::array<char const*, 7> dayNames = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+constexpr auto dayNames =
+    std::to_array<char const*>({"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"});
 
 /// The day of the week counts as unsigned, so that a negative one has a name too.
 char const* dayName(std::tm const& fields) noexcept {
-    return dayNames[static_cast<unsigned int>(fields.tm_wday) % 7];
+    return dayNames[static_cast<unsigned int>(fields.tm_wday) % dayNames.size()];
 }
 
 /// Text in a buffer that holds the longest date: a day's name, six numbers of up to ten digits and

@@ -43,7 +43,8 @@ CONDITION = re.compile(r"\b(if|while) \((.*)\)( \{)?$")
 STATEMENT = re.compile(r"^\s+(?!return|using|break|continue|throw|goto|default|case|delete)"
                        r"[\w.:>*\[\]()-]+( [-+*/%&|^<>]*= .*|\(.*\))?;$")
 # The head of a function that tells how much room something takes. To ask for more is as right.
-ROOM = re.compile(r"\bsize_t [\w:]*\b(\w*[sS]cratch|\w*Workspace|room)\([^()]*\) (const )?noexcept \{$")
+ROOM = re.compile(r"\bsize_t (\w*[sS]cratch|\w*Workspace|room|limbs|imageLimbs|limbsFor)"
+                  r"\([^()]*\) (const )?noexcept \{( .* \})?$")
 LEFT_OUT = re.compile(r"^\s*(#|//|\*|static_assert|assert|template|namespace|using |class |struct )")
 
 
@@ -110,12 +111,12 @@ def asks_for_more(kind, old, new):
 
 def sites_of(file, text):
     lines = text.split("\n")
-    room = None  # the indentation of such a function
+    room = None  # the last line of such a function
     for number, line in enumerate(lines):
         if ROOM.search(line):
-            room = re.match(r" *", line).group()
-        elif line == f"{room}}}":
-            room = None
+            room = line if line.endswith("}") else re.match(r" *", line).group() + "}"
         for kind, new in changes_of_line(line):
             if room is None or not asks_for_more(kind, line, new):
                 yield Site(file, number, kind, line, new)
+        if line == room:
+            room = None
