@@ -72,6 +72,8 @@ TEST(Widest, NothingGrowsBeyond) {
 
 TEST(Widest, BitsAtTheVeryEndAreWrittenMovedAndRead) {
     LargeInteger v = widest();
+    v.setRange(INT_MAX, INT_MAX, false);
+    EXPECT_TRUE(v.isZero());
     v.setBitRangeAsInt(INT_MAX - 31, 32, 0x90000005U);
     EXPECT_EQ(v.getHighestBit(), INT_MAX);
     EXPECT_EQ(v.getBitRangeAsInt(INT_MAX - 31, 32), static_cast<int>(0x90000005U));

@@ -21,7 +21,8 @@ PROGRAMS = {
     "faults": {"more": ["tests/fs/TemporaryFolder.cpp"], "link": WRAPPED},
 }
 
-LONG_BIGINT = "*Differential*:*SmallWorld*:Widest*:MillionBits*:Storage.TheLargestPosition*"
+WIDE_BIGINT = "Widest*:MillionBits*:Storage.TheLargestPosition*"
+LONG_BIGINT = f"*Differential*:*SmallWorld*:{WIDE_BIGINT}"
 FEW_SHARDS = "*Differential*/0:*Differential*/1:*Differential*/2"
 # Its last words are those of one compiler at one level of optimisation.
 LAST_WORDS = "ReplacingDeathTest*"
@@ -33,7 +34,8 @@ STAGES = {
     "text": [("text", f"*-{LAST_WORDS}", "UTC")],
     "bigint": [("bigint", f"*-{LONG_BIGINT}", "UTC"),
                ("bigint", f"{FEW_SHARDS}:*SmallWorld*", "UTC"),
-               ("crypto", f"*-{LONG_CRYPTO}", "UTC")],
+               ("crypto", f"*-{LONG_CRYPTO}", "UTC"),
+               ("bigint", WIDE_BIGINT, "UTC")],
     "crypto": [("crypto", f"*-{LONG_CRYPTO}", "UTC"),
                ("crypto", "*PlainVerdicts*/0:*ManyKeys*/0", "UTC")],
     "time": [("time", "*", "Europe/Paris"), ("time", "*", "Africa/Monrovia"),
