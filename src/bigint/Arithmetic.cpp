@@ -28,8 +28,8 @@ void LargeInteger::addMagnitude(LargeInteger const& b) noexcept {
 /// |this| - |b| for |this| >= |b|; the flag and the cached bound stay, which may leave the bound
 /// too high.
 void LargeInteger::subtractMagnitude(LargeInteger const& b) noexcept {
-    int const top = wordIndex(highestBit) + 1;
-    int const bTop = wordIndex(b.highestBit) + 1;
+    int const top = wordIndex(highestBit);
+    int const bTop = wordIndex(b.highestBit);
     std::uint64_t borrow = 0;
     for (int i = 0; i <= top; ++i) {
         std::uint64_t const sub = borrow + (i <= bTop ? b.data[i] : 0U);

@@ -24,13 +24,11 @@ limbs::Limb leadingLimb(limbs::Limb const* a, long long top) noexcept {
     return (a[i] << shift) | below;
 }
 
-/// The highest set bit of x * y + 1; neither is zero.
+/// The highest set bit of x y; neither is zero.
 ///
-/// It is the sum of theirs or one more, which the leading limbs tell nearly always. With
-/// X 2^a <= x < (X + 1) 2^a, and Y 2^b likewise, x y + 1 is below (X + 1) (Y + 1) 2^(a + b) once x
-/// or y has 64 bits; for then, say, x + 1 <= (X + 1) 2^a.
-long long topOfProductAndOne(limbs::Limb const* x, limbs::Limb const* y,
-                             std::size_t count) noexcept {
+/// It is the sum of theirs or one more, which the leading limbs tell nearly always: with
+/// X 2^a <= x < (X + 1) 2^a, and Y 2^b likewise, x y is below (X + 1) (Y + 1) 2^(a + b).
+long long topOfProduct(limbs::Limb const* x, limbs::Limb const* y, std::size_t count) noexcept {
     long long const xTop = topBit(x, count);
     long long const yTop = topBit(y, count);
     limbs::DoubleLimb const leadingX = leadingLimb(x, xTop);
@@ -38,13 +36,11 @@ long long topOfProductAndOne(limbs::Limb const* x, limbs::Limb const* y,
     constexpr limbs::DoubleLimb half = limbs::DoubleLimb{1} << 127;
     if (leadingX * leadingY >= half)
         return xTop + yTop + 1;
-    if (std::max(xTop, yTop) >= limbs::bitsPerLimb - 1
-        && leadingX * leadingY + leadingX + leadingY < half)
+    if (leadingX * leadingY + leadingX + leadingY < half)
         return xTop + yTop;
     Workspace workspace(2 * count + limbs::multiplyScratch(count, count));
     limbs::Limb* const product = workspace.take(2 * count);
     limbs::multiply(product, x, count, y, count, workspace.take(0));
-    limbs::addLimb(product, product, 2 * count, 1);
     return topBit(product, 2 * count);
 }
 
@@ -174,8 +170,9 @@ bool LargeInteger::invert(LargeInteger const& m) noexcept {
     int bound = mTop;
     if (limbs::compare(out, modulus, count) > 0) {
         loadLimbs(v, count, data, top);
-        v[0] -= 1;  // v is odd
-        bound = checkedPosition(topOfProductAndOne(modulus, v, count));
+        // v is odd, so v - 1 is even, and 1 more than the product does not move the highest bit.
+        v[0] -= 1;
+        bound = checkedPosition(topOfProduct(modulus, v, count));
     }
     std::free(data);
     size = tightSize(bound);

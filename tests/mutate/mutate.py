@@ -4,6 +4,7 @@
 Makes COUNT small changes to the sources, one at a time and always the same ones for a SEED, in a
 copy of TREE below OUT, and asks the tests. A change that no test notices has survived: its line
 goes to OUT/survivors.txt. A test program that crashes, hangs or runs out of memory has noticed.
+Changes that nobody can notice stand in unseen.txt, and are not made.
 """
 import os
 import random
@@ -52,22 +53,23 @@ def read(path):
         return file.read()
 
 
-def choices_of(tree):
-    """Pairs of a path and a part of a line."""
-    for line in read(os.path.join(tree, "tests", "mutate", "choices.txt")).decode().splitlines():
-        if not line.startswith("#"):
+def unseen_in(tree):
+    """Pairs of a path and a part of "line  ->  changed line"."""
+    for line in read(os.path.join(tree, "tests", "mutate", "unseen.txt")).decode().splitlines():
+        if line and not line.startswith("#"):
             yield tuple(line.split(": ", 1))
 
 
 def all_sites(tree):
-    choices = list(choices_of(tree))
+    unseen = list(unseen_in(tree))
     for place, folders, names in os.walk(os.path.join(tree, "src")):
         folders.sort()
         for name in sorted(names):
             file = os.path.relpath(os.path.join(place, name), tree)
             if name.endswith((".cpp", ".h")) and not file.endswith(LEFT_OUT):
                 for site in sites_of(file, read(os.path.join(tree, file)).decode()):
-                    if not any(file == path and part in site.old for path, part in choices):
+                    change = f"{site.old.strip()}  ->  {site.new.strip()}"
+                    if not any(file == path and part in change for path, part in unseen):
                         yield site
 
 

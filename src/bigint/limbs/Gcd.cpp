@@ -221,7 +221,6 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
     if (count == 1) {
         larger.number[0] = divideLimb(quotient, larger.number, aCount, smaller.number[0]);
         std::fill(larger.number + 1, larger.number + aCount, Limb{0});
-        quotient[aCount] = 0;
     } else {
         int const shift = std::countl_zero(smaller.number[count - 1]);
         std::copy(larger.number, larger.number + aCount, dividend);
