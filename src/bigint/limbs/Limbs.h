@@ -68,7 +68,7 @@ std::size_t squareScratch(std::size_t count) noexcept;
 /// quotient[0, count) = a / divisor; returns the remainder. `quotient` may be `a`.
 Limb divideLimb(Limb* quotient, Limb const* a, std::size_t count, Limb divisor) noexcept;
 
-/// a / divisor: quotient[0, aCount - count], the remainder in a[0, count), whose limbs above
+/// a / divisor: quotient[0, aCount - count), the remainder in a[0, count), whose limbs above
 /// are zero afterwards. `divisor` has `count` >= 2 limbs with the top bit of the highest set, and
 /// the top `count` limbs of a are below it.
 void divideNormalized(Limb* quotient, Limb* a, std::size_t aCount, Limb const* divisor,

@@ -20,7 +20,7 @@ class DivisionContext {
     DivisionContext(Limb const* modulus, std::size_t limbCount, Limb* limbs) noexcept
         : count(limbCount), shift(std::countl_zero(modulus[limbCount - 1])), divisor(limbs),
           product(limbs + limbCount), quotient(product + 2 * limbCount + 1),
-          scratch(quotient + 2 * limbCount) {
+          scratch(quotient + limbCount + 1) {
         std::copy(modulus, modulus + count, divisor);
         if (shift != 0)
             shiftLeft(divisor, divisor, count, shift);
@@ -118,11 +118,12 @@ bool joinBuckets(Buckets& buckets, std::size_t bucketCount, Context const& conte
 
 }  // namespace
 
-// The current power and the joined product, the buckets, and what the larger context needs.
+// The current power and the joined product, the buckets, and what the larger context needs, which
+// is that of divisions.
 std::size_t powerScratch(std::size_t count, long long top) noexcept {
     std::size_t const buckets = std::size_t{1} << (windowWidth(top) - 1);
-    return (2 + buckets) * count + 5 * count + 1
-           + std::max({multiplyScratch(count, count), squareScratch(count), 2 * count + 1});
+    return (2 + buckets) * count + 4 * count + 2
+           + std::max(multiplyScratch(count, count), squareScratch(count));
 }
 
 namespace {
