@@ -244,4 +244,16 @@ TEST(Reciprocal, ByNewtonIsNotTooLargeForQuotientsThatAreNearlyWhole) {
     }
 }
 
+// As above, with a smaller c for which 4 c - m is a multiple of B.
+TEST(Reciprocal, ByNewtonMayEndInALimbOfOnes) {
+    for (std::size_t count = 5; count <= 9; ++count) {
+        for (Limb m = 4; m <= 100; m += 4) {
+            Limbs a = divisorOfNearlyWhole(count, m);
+            Limb const excess = (a[0] - m / 4) % (Limb{1} << 62);
+            subtractLimb(a.data(), a.data(), count, excess);
+            expectReciprocal(a, reciprocalByNewton);
+        }
+    }
+}
+
 }  // namespace

@@ -3,6 +3,7 @@
 #include "LimbTables.h"
 
 #include "bigint/limbs/Kernels.h"
+#include "bigint/limbs/PrimeField.h"
 #include "bigint/limbs/Thresholds.h"
 #include "bigint/limbs/Transform.h"
 
@@ -109,6 +110,29 @@ TEST(LongProduct, TransformsTakeACoefficientOfTheHighestBitAlone) {
     Limbs a = Operands(9).any(count);
     a.back() |= topBit;
     expectProduct(multiplyByTransform, transformScratch, a, Limbs(count, allOnes));
+}
+
+/// Bits [86 j, 86 (j + 1)) of a, zeros so far, become `value`.
+void putCoefficient(Limbs& a, std::size_t j, DoubleLimb value) {
+    for (std::size_t bit = 86 * j; value != 0; value >>= 1, ++bit)
+        a[bit / 64] |= static_cast<Limb>(value & 1) << (bit % 64);
+}
+
+// 63 limbs by one are cut into 48 coefficients of 86 bits: three times 16. The first step adds and
+// subtracts those of the outer thirds, of which 2^64 - p comes in as the smallest number there is,
+// and 2^85 as the largest.
+TEST(LongProduct, TransformsMeetTheEndsOfTheirRangeInTheirFirstStep) {
+    for (auto const& [p, root] : primes) {
+        DoubleLimb const ends[] = {0 - p, DoubleLimb{1} << 85};
+        for (std::size_t lower : {0U, 1U}) {
+            Limbs a(63);
+            for (std::size_t j = 0; j < 14; ++j) {
+                putCoefficient(a, j, ends[lower]);
+                putCoefficient(a, j + 32, ends[1 - lower]);
+            }
+            expectProduct(multiplyByTransform, transformScratch, a, Limbs{1});
+        }
+    }
 }
 
 TEST(LongProduct, TransformsOfEveryShortLength) {

@@ -312,8 +312,11 @@ TEST(LimbPower, ModuloNumbersOfEachLengthWithTheirTopBitSetAndClear) {
         modulus[0] |= 1;
         for (int const shift : {0, 1, 63}) {
             modulus.back() = (modulus.back() | topBit) >> shift;
-            modulus[0] |= 1;
-            expectPower(anyBelow(operands, modulus), {0b1'0110'1110'1001}, modulus);
+            for (Limb const lowest : {modulus[0] | 1, modulus[0] & ~Limb{1}}) {
+                modulus[0] = lowest;
+                if (modulus.back() != 0)
+                    expectPower(anyBelow(operands, modulus), {0b1'0110'1110'1001}, modulus);
+            }
         }
         if (HasFailure())
             return;
@@ -326,7 +329,9 @@ TEST(LimbPower, ModuloNumbersWhoseProductsAreTakenByHalves) {
              {limbs::halvesMultiply - 1, limbs::halvesMultiply, limbs::halvesMultiply + 1,
               limbs::halvesSquare - 1, limbs::halvesSquare, limbs::halvesSquare + 1,
               2 * limbs::halvesSquare},
-             [&](Limbs const& modulus) {
+             [&](Limbs modulus) {
+                 expectPower(anyBelow(operands, modulus), {0b1'0110'1111}, modulus);
+                 modulus[0] -= 1;
                  expectPower(anyBelow(operands, modulus), {0b1'0110'1111}, modulus);
              });
 }

@@ -1,7 +1,6 @@
 // Products of transformed operands: plain ones, and those modulo 2^(64 n) - 1, against the rows.
 #include "LimbTables.h"
 
-#include "bigint/limbs/PrimeField.h"
 #include "bigint/limbs/Transform.h"
 
 namespace {
@@ -102,32 +101,6 @@ TEST(TransformedOperands, TheLargestCoefficientsOfCyclicProductsFit) {
             << least;
         a[0] -= 1;
         ASSERT_EQ(folded(productOfImages(shape, shape.nodes(), a, a), shape.length), one) << least;
-    }
-}
-
-/// Bits [bits * j, bits * (j + 1)) of a, zeros so far, become `value`.
-void putCoefficient(Limbs& a, Shape const& shape, std::size_t j, DoubleLimb value) {
-    for (std::size_t bit = static_cast<std::size_t>(shape.bits) * j; value != 0; value >>= 1, ++bit)
-        a[bit / 64] |= static_cast<Limb>(value & 1) << (bit % 64);
-}
-
-// Of all coefficients 2^64 - p becomes the smallest number below 2p, and 2^(bits - 1) the largest.
-TEST(TransformedOperands, MayMeetTheEndsOfTheirRangeInTheFirstStep) {
-    Shape const shape = cyclicShape(100);
-    ASSERT_FALSE(shape.whole());
-    std::size_t const third = shape.size / 3;
-    DoubleLimb const largest = DoubleLimb{1} << (shape.bits - 1);
-    for (auto const& [p, root] : primes) {
-        Limb const smallest = 0 - p;
-        for (auto const& [lower, upper] : {std::pair<DoubleLimb, DoubleLimb>{smallest, largest},
-                                           std::pair<DoubleLimb, DoubleLimb>{largest, smallest}}) {
-            Limbs a(shape.length);
-            for (std::size_t j = 0; j < third; ++j) {
-                putCoefficient(a, shape, j, lower);
-                putCoefficient(a, shape, j + 2 * third, upper);
-            }
-            ASSERT_EQ(productOfImages(shape, shape.nodes(), a, Limbs{1}), a);
-        }
     }
 }
 

@@ -46,11 +46,11 @@ class Powers {
     std::size_t count = 0;
 };
 
-/// The power that is memory[0, count) * 2^exponent. A power of 5 has less than 64 zero bits at the
-/// low end once it is shifted, and its square twice as many and one: so one limb there may be zero.
+/// The power that is memory[0, count) * 2^exponent, the highest limb not zero. A power of 5 has
+/// less than 64 zero bits at the low end once it is shifted, and its square twice as many and one:
+/// so one limb there may be zero.
 Power normalized(std::size_t groups, Limb* memory, std::size_t count,
                  std::size_t exponent) noexcept {
-    count = significant(memory, count);
     if (int const shift = std::countl_zero(memory[count - 1]); shift != 0) {
         shiftLeft(memory, memory, count, shift);
         exponent -= static_cast<std::size_t>(shift);

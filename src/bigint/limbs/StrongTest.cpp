@@ -82,10 +82,6 @@ StrongTest::StrongTest(Limb const* number, std::size_t limbCount, Limb* scratch)
 // each prime factor r of n a multiple of 2^(s+1), and so each r, and n itself, 1 modulo 2^(s+1);
 // but n - 1 has just s factors of two.
 bool StrongTest::passes(Limb witness) noexcept {
-    if (count == 1)
-        witness %= n[0];
-    if (witness == 0)
-        return false;
     raiseToOddPart(witness);
     if (isEqual(one) || isEqual(minusOne))
         return true;
