@@ -120,28 +120,42 @@ TEST(Storage, SelfAssignmentLeavesEvenAStaleBound) {
     EXPECT_EQ(v, LargeInteger(5));
 }
 
+void expectMovesLikeCopies(LargeInteger const& value, bool stale, int words) {
+    LargeInteger constructed(value);
+    LargeInteger assigned(value);
+    for (LargeInteger* const source : {&constructed, &assigned}) {
+        if (stale)
+            makeStale(*source, 300);
+        source->ensureSize(words);
+    }
+    LargeInteger const constructedCopy(constructed);
+    LargeInteger assignedCopy;
+    assignedCopy = assigned;
+    LargeInteger const fromConstructed(std::move(constructed));
+    LargeInteger fromAssigned(1);
+    fromAssigned = std::move(assigned);
+    EXPECT_EQ(books(fromConstructed), books(constructedCopy));
+    EXPECT_EQ(fromConstructed, value);
+    EXPECT_EQ(books(fromAssigned), books(assignedCopy));
+    EXPECT_EQ(fromAssigned, value);
+    // What is left behind behaves as zero.
+    EXPECT_EQ(books(constructed).highestBit, -1);  // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(constructed + LargeInteger(5), LargeInteger(5));
+    EXPECT_EQ(assigned + LargeInteger(5), LargeInteger(5));  // NOLINT(bugprone-use-after-move)
+}
+
+// Of a source that is as wide as its copy would be, or wider, with its bound exact or too high.
 TEST(Storage, AMoveLeavesTheBooksOfACopyAndAZeroBehind) {
-    LargeInteger stale(-5);
-    makeStale(stale, 200);  // 12 words: a copy would have 7
-    LargeInteger tight(stale);
-    tight.setBit(200);
-    for (LargeInteger const& value : {stale, tight, LargeInteger(-7), negativeZero()}) {
-        LargeInteger constructed(value);
-        constructed.ensureSize(3);
-        LargeInteger assigned(value);
-        LargeInteger const fromConstructed(std::move(constructed));
-        LargeInteger fromAssigned(1);
-        fromAssigned = std::move(assigned);
-        EXPECT_EQ(books(fromConstructed), books(LargeInteger(value)));
-        EXPECT_EQ(fromConstructed, value);
-        LargeInteger copied;
-        copied = value;
-        EXPECT_EQ(books(fromAssigned), books(copied));
-        EXPECT_EQ(fromAssigned, value);
-        // What is left behind behaves as zero.
-        EXPECT_EQ(books(constructed).highestBit, -1);  // NOLINT(bugprone-use-after-move)
-        EXPECT_EQ(constructed + LargeInteger(5), LargeInteger(5));
-        EXPECT_EQ(assigned + LargeInteger(5), LargeInteger(5));  // NOLINT(bugprone-use-after-move)
+    LargeInteger wide(-5);
+    wide.setBit(200);
+    for (LargeInteger const& value : {LargeInteger(-5), wide, negativeZero()}) {
+        for (bool const stale : {false, true}) {
+            for (int const words : {0, 3, 7, 20}) {
+                SCOPED_TRACE(value.toString(10) + (stale ? ", stale, " : ", ")
+                             + std::to_string(words) + " words");
+                expectMovesLikeCopies(value, stale, words);
+            }
+        }
     }
 }
 
