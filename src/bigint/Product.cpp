@@ -72,7 +72,7 @@ int productCapacity(Magnitude a, int bTop) noexcept {
 }
 
 Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
-    : workspace(quotientWorkspace(dividend, divisor)) {
+    : remainderTop(dividend.top), workspace(quotientWorkspace(dividend, divisor)) {
     std::size_t const aCount = limbCount(dividend.top);
     std::size_t const count = limbCount(divisor.top);
     limbs::Limb* const a = workspace.take(aCount + 1);
@@ -80,10 +80,8 @@ Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
     limbs::Limb* const d = workspace.take(count);
     loadLimbs(a, aCount, dividend.words, dividend.top);
     remainder = a;
-    if (dividend.top < divisor.top) {
-        remainderTop = dividend.top;
+    if (dividend.top < divisor.top)
         return;
-    }
     loadLimbs(d, count, divisor.words, divisor.top);
     quotient = q;
     if (count == 1) {

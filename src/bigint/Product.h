@@ -38,7 +38,7 @@ class Quotient {
     limbs::Limb const* quotient = nullptr;
     int quotientTop = -1;
     limbs::Limb const* remainder = nullptr;
-    int remainderTop = -1;
+    int remainderTop;
 
   private:
     Workspace workspace;
