@@ -5,6 +5,7 @@
 
 #include <climits>
 #include <csignal>
+#include <string>
 #include <sys/resource.h>
 #include <type_traits>
 
