@@ -288,12 +288,12 @@ class LargeInteger {
     friend struct internal::Representation;
     friend struct LargeIntegerPeer;
 
-    LargeInteger(std::uint32_t* words, int capacity, int bound, bool flag) noexcept
-        : data(words), size(capacity), highestBit(bound), negative(flag) {}
+    LargeInteger(std::uint64_t* limbs, int capacity, int bound, bool flag) noexcept
+        : data(limbs), size(capacity), highestBit(bound), negative(flag) {}
 
-    /// The magnitude, least significant word first: `size` + 1 words, the last one a guard.
-    std::uint32_t* data;
-    /// Capacity in words.
+    /// The magnitude, least significant limb first: room for `size` 32-bit words and one more.
+    std::uint64_t* data;
+    /// Capacity in 32-bit words.
     std::int32_t size;
     /// An upper bound of the index of the highest set bit; -1 for no bits. It may be too high
     /// after operations that can only lower the top: bits between are zero.

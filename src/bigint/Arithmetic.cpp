@@ -4,76 +4,105 @@
 #include "Product.h"
 #include "Representation.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace qel {
 
 using namespace internal;
 
-/// |a| + |b|; the flag stays.
-void internal::Representation::addMagnitude(LargeInteger& a, LargeInteger const& b) noexcept {
-    long long const bound = std::max(a.highestBit, b.highestBit) + 1LL;
-    int const top = wordIndex(bound) + 1;
-    a.ensureSize(top);
-    std::uint64_t sum = 0;
-    for (int i = 0; i <= top; ++i) {
-        sum += a.data[i];
-        if (i < b.size)
-            sum += b.data[i];
-        a.data[i] = static_cast<std::uint32_t>(sum);
-        sum >>= bitsPerWord;
-    }
-    refreshHighestBit(a, bound);
+namespace {
+
+constexpr Limb one = 1;
+constexpr Magnitude oneMagnitude{&one, 0};
+
+/// out = a + b, which has one limb more than the longer of them; `out` may be either.
+void addMagnitudes(Limb* out, Magnitude a, Magnitude b) noexcept {
+    if (a.top < b.top)
+        std::swap(a, b);
+    std::size_t const count = a.count();
+    std::size_t const common = b.count();
+    Limb carry = common == 0 ? 0 : limbs::add(out, a.value, b.value, common);
+    carry = limbs::addLimb(out + common, a.value + common, count - common, carry);
+    out[count] = carry;
 }
 
-/// |a| - |b| for |a| >= |b|; the flag and the cached bound stay, which may leave the bound too
-/// high.
-void internal::Representation::subtractMagnitude(LargeInteger& a, LargeInteger const& b) noexcept {
-    int const top = wordIndex(a.highestBit);
-    int const bTop = wordIndex(b.highestBit);
-    std::uint64_t borrow = 0;
-    for (int i = 0; i <= top; ++i) {
-        std::uint64_t const sub = borrow + (i <= bTop ? b.data[i] : 0U);
-        borrow = a.data[i] < sub ? 1 : 0;
-        a.data[i] = static_cast<std::uint32_t>(a.data[i] - sub);
+/// out = a - b for a >= b, which has the limbs of a; `out` may be either.
+void subtractMagnitudes(Limb* out, Magnitude a, Magnitude b) noexcept {
+    std::size_t const count = a.count();
+    std::size_t const common = b.count();
+    Limb const borrow = common == 0 ? 0 : limbs::subtract(out, a.value, b.value, common);
+    limbs::subtractLimb(out + common, a.value + common, count - common, borrow);
+}
+
+}  // namespace
+
+// The steps of a signed sum: magnitudes of one sign are added. Of two signs the smaller one is
+// subtracted from the larger, which leaves the bound where it was. Where that is b, the object
+// first becomes a copy of b: one sized by the top of b when its sign was dropped before or the
+// object is negative, otherwise one sized by b's cached bound.
+void internal::Representation::add(LargeInteger& a, Magnitude b, int bBound, bool bNegative,
+                                   bool subtract) noexcept {
+    Magnitude const old = magnitude(a);
+    bool const aNegative = a.negative && old.top >= 0;
+    if (bNegative)
+        bBound = b.top;
+    if (aNegative == (bNegative != subtract)) {
+        long long const bound = std::max(a.highestBit, bBound) + 1LL;
+        bool const toItself = b.value == a.data;
+        a.ensureSize(wordIndex(bound) + 1);
+        addMagnitudes(a.data, {a.data, old.top}, toItself ? Magnitude{a.data, b.top} : b);
+        refreshHighestBit(a, std::max(old.top, b.top) + 1LL);  // a negative zero keeps its flag
+    } else if (compareMagnitudes(old, b) >= 0) {
+        subtractMagnitudes(a.data, old, b);
+        if (aNegative)
+            a.negative = !a.isZero();
+    } else {
+        int const sizeTop = aNegative ? b.top : bBound;
+        LargeInteger difference = sized(resultBuffer(limbCount(sizeTop)), 0, sizeTop, !aNegative);
+        difference.highestBit = b.top;
+        subtractMagnitudes(difference.data, b, old);
+        a.swapWith(difference);
     }
+}
+
+// What a copy of the object becomes, copied.
+LargeInteger internal::Representation::sum(LargeInteger const& a, LargeInteger const& b,
+                                           bool subtract) noexcept {
+    Magnitude const x = magnitude(a);
+    Magnitude const y = magnitude(b);
+    bool const xNegative = a.negative && x.top >= 0;
+    bool const yNegative = b.negative && y.top >= 0;
+    std::size_t const count = std::max(x.count(), y.count());
+    Limb* const out = resultBuffer(count + 1);
+    if (xNegative == (yNegative != subtract)) {
+        addMagnitudes(out, x, y);
+        return tight(out, count + 1, a.negative);
+    }
+    int const order = compareMagnitudes(x, y);
+    if (order < 0) {
+        subtractMagnitudes(out, y, x);
+        return sized(out, count, y.top, !xNegative);
+    }
+    subtractMagnitudes(out, x, y);
+    return sized(out, count, x.top, a.negative && !(xNegative && order == 0));
 }
 
 LargeInteger& LargeInteger::operator+=(LargeInteger const& b) noexcept {
-    if (b.isNegative())
-        return *this -= -b;
-    if (!isNegative()) {
-        Representation::addMagnitude(*this, b);  // a negative zero keeps its flag: -0 + 5 is -5
-        return *this;
-    }
-    if (compareAbsolute(b) >= 0) {
-        negative = false;
-        *this -= b;
-        negative = !isZero();
-    } else {
-        LargeInteger const absolute = -*this;
-        *this = b;
-        *this -= absolute;
-    }
+    Representation::add(*this, Representation::magnitude(b), b.highestBit, b.isNegative(), false);
     return *this;
 }
 
 LargeInteger& LargeInteger::operator-=(LargeInteger const& b) noexcept {
-    if (b.isNegative())
-        return *this += -b;
-    if (isNegative()) {
-        negative = false;
-        *this += b;
-        negative = !isZero();
-    } else if (compareAbsolute(b) >= 0) {
-        Representation::subtractMagnitude(*this, b);
-    } else {
-        LargeInteger smaller(b);
-        swapWith(smaller);
-        *this -= smaller;
-        negate();
-    }
+    Representation::add(*this, Representation::magnitude(b), b.highestBit, b.isNegative(), true);
     return *this;
+}
+
+LargeInteger LargeInteger::operator+(LargeInteger const& b) const noexcept {
+    return Representation::sum(*this, b, false);
+}
+
+LargeInteger LargeInteger::operator-(LargeInteger const& b) const noexcept {
+    return Representation::sum(*this, b, true);
 }
 
 LargeInteger& LargeInteger::operator*=(LargeInteger const& b) noexcept {
@@ -83,34 +112,25 @@ LargeInteger& LargeInteger::operator*=(LargeInteger const& b) noexcept {
     // In x *= x the sign of b goes with the one of x before it is read, so the product keeps the
     // sign of x.
     bool const rightNegative = this != &b && b.negative && right.top >= 0;
-    Product const product(left, right);
     int const capacity = productCapacity(left, right.top);
-    std::uint32_t* const words = zeroedBuffer(capacity);
-    storeWords(words, product.value, product.top);
-    std::free(data);
-    data = words;
-    size = capacity;
-    highestBit = product.top;
-    negative = leftNegative != rightNegative;
+    std::size_t const count = productLimbs(left, right);
+    std::size_t const room = std::max(count, bufferLimbs(capacity));
+    Limb* const out = newBuffer(room);
+    multiply(out, left, right);
+    std::fill(out + count, out + room, Limb{0});
+    LargeInteger product(out, capacity, checkedPosition(topBit(out, count)),
+                         leftNegative != rightNegative);
+    swapWith(product);
     return *this;
 }
 
-// The binary operators return a copy of the working value, not the value itself: a copy has an
-// exact bound and a tight buffer.
-
-LargeInteger LargeInteger::operator+(LargeInteger const& b) const noexcept {
-    LargeInteger work(*this);
-    return LargeInteger(work += b);
-}
-
-LargeInteger LargeInteger::operator-(LargeInteger const& b) const noexcept {
-    LargeInteger work(*this);
-    return LargeInteger(work -= b);
-}
-
 LargeInteger LargeInteger::operator*(LargeInteger const& b) const noexcept {
-    Product const product(Representation::magnitude(*this), Representation::magnitude(b));
-    return Representation::tight(product.value, product.top, isNegative() != b.isNegative());
+    Magnitude const left = Representation::magnitude(*this);
+    Magnitude const right = Representation::magnitude(b);
+    std::size_t const count = productLimbs(left, right);
+    Limb* const out = Representation::resultBuffer(count);
+    multiply(out, left, right);
+    return Representation::tight(out, count, isNegative() != b.isNegative());
 }
 
 LargeInteger LargeInteger::operator-() const noexcept {
@@ -120,11 +140,13 @@ LargeInteger LargeInteger::operator-() const noexcept {
 }
 
 LargeInteger& LargeInteger::operator++() noexcept {
-    return *this += LargeInteger(1);
+    Representation::add(*this, oneMagnitude, 0, false, false);
+    return *this;
 }
 
 LargeInteger& LargeInteger::operator--() noexcept {
-    return *this -= LargeInteger(1);
+    Representation::add(*this, oneMagnitude, 0, false, true);
+    return *this;
 }
 
 LargeInteger LargeInteger::operator++(int) noexcept {

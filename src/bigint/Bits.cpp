@@ -4,33 +4,53 @@
 
 #include "Representation.h"
 
-#include <algorithm>
-
 namespace qel {
 
 using namespace internal;
 
 namespace {
 
-constexpr std::uint32_t bitMask(long long position) noexcept {
-    return std::uint32_t{1} << (position % bitsPerWord);
+constexpr Limb bitMask(long long position) noexcept {
+    return Limb{1} << (position % limbs::bitsPerLimb);
 }
 
-/// The low `count` bits, `count` from 1 to 32.
-constexpr std::uint32_t lowMask(long long count) noexcept {
-    return ~std::uint32_t{0} >> (bitsPerWord - count);
+/// The low `count` bits, for `count` from 1 to 64.
+constexpr Limb lowMask(long long count) noexcept {
+    return ~Limb{0} >> (limbs::bitsPerLimb - count);
+}
+
+/// Calls `apply(limb, mask)` for each limb with bits from `start` to `end` - 1, their mask.
+template <typename Apply>
+void forEachLimb(Limb* a, long long start, long long end, Apply apply) noexcept {
+    while (start < end) {
+        long long const limbEnd = (start / limbs::bitsPerLimb + 1) * limbs::bitsPerLimb;
+        long long const stop = std::min(limbEnd, end);
+        Limb const mask = lowMask(stop - start) << (start % limbs::bitsPerLimb);
+        apply(a[limbIndex(start)], mask);
+        start = stop;
+    }
+}
+
+/// `count` <= 64 bits from `start` up, at or below the bound.
+Limb bitsFrom(Limb const* a, int bound, long long start, long long count) noexcept {
+    std::size_t const i = limbIndex(start);
+    auto const shift = static_cast<int>(start % limbs::bitsPerLimb);
+    Limb bits = a[i] >> shift;
+    if (shift != 0 && i < limbIndex(bound))
+        bits |= a[i + 1] << (limbs::bitsPerLimb - shift);
+    return bits & lowMask(count);
 }
 
 }  // namespace
 
 int LargeInteger::getHighestBit() const noexcept {
-    return static_cast<int>(highestSetBit(data, wordIndex(highestBit + 1LL)));
+    return Representation::magnitude(*this).top;
 }
 
 int LargeInteger::operator[](int i) const noexcept {
     if (i < 0 || i > highestBit)
         return 0;
-    return (data[wordIndex(i)] & bitMask(i)) != 0 ? 1 : 0;
+    return (data[limbIndex(i)] & bitMask(i)) != 0 ? 1 : 0;
 }
 
 void LargeInteger::setBit(int i) noexcept {
@@ -40,7 +60,7 @@ void LargeInteger::setBit(int i) noexcept {
         ensureSize(wordIndex(i));
         highestBit = i;
     }
-    data[wordIndex(i)] |= bitMask(i);
+    data[limbIndex(i)] |= bitMask(i);
 }
 
 void LargeInteger::setBit(int i, bool value) noexcept {
@@ -52,17 +72,25 @@ void LargeInteger::setBit(int i, bool value) noexcept {
 
 void LargeInteger::clearBit(int i) noexcept {
     if (i >= 0 && i <= highestBit)
-        data[wordIndex(i)] &= ~bitMask(i);
+        data[limbIndex(i)] &= ~bitMask(i);
 }
 
 void LargeInteger::setRange(int start, int count, bool value) noexcept {
     // Positions below 0 are ignored one by one, and so are those above the bound when clearing:
-    // leaving them out of the loop changes nothing.
-    long long end = static_cast<long long>(start) + count;
-    if (!value)
-        end = std::min(end, highestBit + 1LL);
-    for (long long i = std::max(start, 0); i < end; ++i)
-        setBit(checkedPosition(i), value);
+    // leaving them out changes nothing.
+    long long const first = std::max(start, 0);
+    long long const end = static_cast<long long>(start) + count;
+    if (!value) {
+        forEachLimb(data, first, std::min(end, highestBit + 1LL),
+                    [](Limb& limb, Limb mask) { limb &= ~mask; });
+    } else if (first < end) {
+        int const last = checkedPosition(end - 1);
+        if (last > highestBit) {
+            Representation::growAlong(*this, std::max(first, highestBit + 1LL), last);
+            highestBit = last;
+        }
+        forEachLimb(data, first, end, [](Limb& limb, Limb mask) { limb |= mask; });
+    }
 }
 
 int LargeInteger::getBitRangeAsInt(int start, int count) const noexcept {
@@ -70,21 +98,31 @@ int LargeInteger::getBitRangeAsInt(int start, int count) const noexcept {
                                   static_cast<long long>(bitsPerWord), highestBit + 1LL - start});
     if (start < 0 || n <= 0)
         return 0;
-    int const shift = start % bitsPerWord;
-    std::uint32_t const* const word = data + wordIndex(start);
-    std::uint32_t bits = word[0] >> shift;
-    if (shift > bitsPerWord - n)
-        bits |= word[1] << (bitsPerWord - shift);
-    return static_cast<int>(bits & lowMask(n));
+    return static_cast<int>(bitsFrom(data, highestBit, start, n));
 }
 
+// Set bits grow one after the other; clear ones above the bound are ignored.
 void LargeInteger::setBitRangeAsInt(int start, int count, unsigned int value) noexcept {
-    for (int k = 0; k < std::min(count, bitsPerWord); ++k) {
+    int const n = std::min(count, bitsPerWord);
+    for (int k = 0; k < n;) {
         long long const position = static_cast<long long>(start) + k;
-        if (((value >> k) & 1) != 0)
-            setBit(checkedPosition(position));
-        else if (position <= highestBit)
-            clearBit(static_cast<int>(position));
+        if (position < 0) {
+            ++k;
+            continue;
+        }
+        // The rest of the word of this position, or of the range.
+        int const inWord = std::min(n - k, bitsPerWord - static_cast<int>(position % bitsPerWord));
+        Limb const mask = lowMask(inWord);
+        Limb const bits = (value >> k) & mask;
+        int const top = limbs::bitsPerLimb - 1 - std::countl_zero(bits);
+        if (top >= 0 && position + top > highestBit)
+            setBit(checkedPosition(position + top));
+        if (position <= highestBit) {
+            auto const shift = static_cast<int>(position % limbs::bitsPerLimb);
+            Limb& limb = data[limbIndex(position)];
+            limb = (limb & ~(mask << shift)) | (bits << shift);
+        }
+        k += inWord;
     }
 }
 
@@ -94,33 +132,49 @@ LargeInteger LargeInteger::getBitRange(int start, int count) const noexcept {
     if (start < 0 || n <= 0)
         return range;
     range.ensureSize(wordIndex(n));
-    for (long long done = 0; done < n; done += bitsPerWord)
-        range.data[wordIndex(done)] = static_cast<std::uint32_t>(
-            getBitRangeAsInt(static_cast<int>(start + done), static_cast<int>(n - done)));
-    Representation::refreshHighestBit(range, n);
+    std::size_t const used = limbCount(n - 1);
+    std::size_t const first = limbIndex(start);
+    auto const shift = static_cast<int>(start % limbs::bitsPerLimb);
+    if (shift == 0)
+        std::copy_n(data + first, used, range.data);
+    else
+        limbs::shiftRight(range.data, data + first, used, shift);
+    // The last limb takes bits from above, and gives up those beyond the range.
+    long long const done = static_cast<long long>(used - 1) * limbs::bitsPerLimb;
+    range.data[used - 1] = bitsFrom(data, highestBit, start + done, n - done);
+    Representation::refreshHighestBit(range, n - 1);
     return range;
 }
 
 int LargeInteger::findNextSetBit(int start) const noexcept {
-    for (long long i = std::max(start, 0); i <= highestBit; ++i) {
-        if ((*this)[static_cast<int>(i)] != 0)
-            return static_cast<int>(i);
+    long long const from = std::max(start, 0);
+    if (from > highestBit)
+        return -1;
+    std::size_t i = limbIndex(from);
+    Limb limb = data[i] & (~Limb{0} << (from % limbs::bitsPerLimb));
+    while (limb == 0) {
+        if (++i > limbIndex(highestBit))
+            return -1;
+        limb = data[i];
     }
-    return -1;
+    return static_cast<int>(i) * limbs::bitsPerLimb + std::countr_zero(limb);
 }
 
 int LargeInteger::findNextClearBit(int start) const noexcept {
-    long long i = std::max(start, 0);
-    while (i <= highestBit && (*this)[static_cast<int>(i)] != 0)
-        ++i;
-    return i > INT_MAX ? -1 : static_cast<int>(i);
+    long long const from = std::max(start, 0);
+    if (from > highestBit)
+        return static_cast<int>(from);
+    std::size_t i = limbIndex(from);
+    Limb limb = ~data[i] & (~Limb{0} << (from % limbs::bitsPerLimb));
+    while (limb == 0 && i < limbIndex(highestBit))
+        limb = ~data[++i];
+    // Without a clear bit up to the end of the last limb, that one is full and the bound its end.
+    long long const found = static_cast<long long>(i) * limbs::bitsPerLimb + std::countr_zero(limb);
+    return found > INT_MAX ? -1 : static_cast<int>(found);
 }
 
 int LargeInteger::countNumberOfSetBits() const noexcept {
-    long long count = 0;
-    for (int i = wordIndex(highestBit); i >= 0; --i)
-        count += std::popcount(data[i]);
-    return checkedPosition(count);
+    return checkedPosition(limbs::countBits(data, limbCount(highestBit)));
 }
 
 }  // namespace qel

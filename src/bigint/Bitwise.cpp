@@ -1,20 +1,36 @@
-// And, or, exclusive or: word by word on the magnitudes; the left operand's sign flag stays.
+// And, or, exclusive or: limb by limb on the magnitudes; the left operand's sign flag stays.
 #include "qel/LargeInteger.h"
 
 #include "Representation.h"
 
-#include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace qel {
 
 using namespace internal;
 
+namespace {
+
+/// The bits of both values combined, where what the longer one has alone stays.
+template <typename Operation>
+LargeInteger combined(Magnitude a, Magnitude b, bool flag, Operation operation) noexcept {
+    if (a.top < b.top)
+        std::swap(a, b);
+    Limb* const out = Representation::resultBuffer(a.count());
+    std::transform(b.value, b.value + b.count(), a.value, out, operation);
+    std::copy(a.value + b.count(), a.value + a.count(), out + b.count());
+    return Representation::tight(out, a.count(), flag);
+}
+
+}  // namespace
+
 LargeInteger& LargeInteger::operator&=(LargeInteger const& b) noexcept {
-    for (int i = size - 1; i >= b.size; --i)
-        data[i] = 0;
-    for (int i = std::min(size, b.size) - 1; i >= 0; --i)
-        data[i] &= b.data[i];
-    Representation::refreshHighestBit(*this, std::min(highestBit, b.highestBit));
+    int const bound = std::min(highestBit, b.highestBit);
+    std::size_t const common = limbCount(bound);
+    std::transform(data, data + common, b.data, data, std::bit_and<>());
+    std::fill(data + common, data + limbCount(highestBit), Limb{0});
+    Representation::refreshHighestBit(*this, bound);
     return *this;
 }
 
@@ -22,8 +38,7 @@ LargeInteger& LargeInteger::operator|=(LargeInteger const& b) noexcept {
     if (b.highestBit < 0)
         return *this;
     ensureSize(wordIndex(b.highestBit));
-    for (int i = wordIndex(b.highestBit); i >= 0; --i)
-        data[i] |= b.data[i];
+    std::transform(data, data + limbCount(b.highestBit), b.data, data, std::bit_or<>());
     Representation::refreshHighestBit(*this, std::max(highestBit, b.highestBit));
     return *this;
 }
@@ -32,28 +47,29 @@ LargeInteger& LargeInteger::operator^=(LargeInteger const& b) noexcept {
     if (b.highestBit < 0)
         return *this;
     ensureSize(wordIndex(b.highestBit));
-    for (int i = wordIndex(b.highestBit); i >= 0; --i)
-        data[i] ^= b.data[i];
+    std::transform(data, data + limbCount(b.highestBit), b.data, data, std::bit_xor<>());
     Representation::refreshHighestBit(*this, std::max(highestBit, b.highestBit));
     return *this;
 }
 
-// The binary operators return a copy of the working value, not the value itself: a copy has an
+// The binary operators return what a copy of the assigning form's result would be, which has an
 // exact bound and a tight buffer.
 
 LargeInteger LargeInteger::operator&(LargeInteger const& b) const noexcept {
-    LargeInteger work(*this);
-    return LargeInteger(work &= b);
+    std::size_t const count = limbCount(std::min(highestBit, b.highestBit));
+    Limb* const out = Representation::resultBuffer(count);
+    std::transform(data, data + count, b.data, out, std::bit_and<>());
+    return Representation::tight(out, count, negative);
 }
 
 LargeInteger LargeInteger::operator|(LargeInteger const& b) const noexcept {
-    LargeInteger work(*this);
-    return LargeInteger(work |= b);
+    return combined(Representation::magnitude(*this), Representation::magnitude(b), negative,
+                    std::bit_or<>());
 }
 
 LargeInteger LargeInteger::operator^(LargeInteger const& b) const noexcept {
-    LargeInteger work(*this);
-    return LargeInteger(work ^= b);
+    return combined(Representation::magnitude(*this), Representation::magnitude(b), negative,
+                    std::bit_xor<>());
 }
 
 }  // namespace qel

@@ -1,7 +1,7 @@
 // Sign and small-value queries, and the order of values. A negative zero counts as zero.
 #include "qel/LargeInteger.h"
 
-#include "Words.h"
+#include "Representation.h"
 
 namespace qel {
 
@@ -29,27 +29,21 @@ bool LargeInteger::negate() noexcept {
 }
 
 int LargeInteger::toInteger() const noexcept {
-    int const low = static_cast<int>(data[0] & 0x7FFFFFFFU);
+    int const low = static_cast<int>(data[0] & 0x7FFFFFFF);
     return negative ? -low : low;
 }
 
 int LargeInteger::compareAbsolute(LargeInteger const& other) const noexcept {
-    int const top = getHighestBit();
-    int const otherTop = other.getHighestBit();
-    if (top != otherTop)
-        return top > otherTop ? 1 : -1;
-    for (int i = wordIndex(top); i >= 0; --i) {
-        if (data[i] != other.data[i])
-            return data[i] > other.data[i] ? 1 : -1;
-    }
-    return 0;
+    return compareMagnitudes(Representation::magnitude(*this), Representation::magnitude(other));
 }
 
 int LargeInteger::compare(LargeInteger const& other) const noexcept {
-    bool const below = isNegative();
-    if (below != other.isNegative())
+    Magnitude const a = Representation::magnitude(*this);
+    Magnitude const b = Representation::magnitude(other);
+    bool const below = negative && a.top >= 0;
+    if (below != (other.negative && b.top >= 0))
         return below ? -1 : 1;
-    int const absolute = compareAbsolute(other);
+    int const absolute = compareMagnitudes(a, b);
     return below ? -absolute : absolute;
 }
 

@@ -1,4 +1,5 @@
-// Division: the quotient and the remainder with the books that long division, bit by bit, leaves.
+// Division: the quotient and the remainder with the representation that long division, bit by bit,
+// leaves.
 #include "qel/LargeInteger.h"
 
 #include "Product.h"
@@ -30,19 +31,20 @@ void LargeInteger::divideBy(LargeInteger const& divisor, LargeInteger& remainder
     }
     bool const divisorNegative = divisor.negative;
     Quotient const result(dividend, by);
+    auto const quotientTop = static_cast<int>(topBit(result.quotient, result.quotientCount));
 
     std::swap(data, remainder.data);
     std::swap(size, remainder.size);
     std::swap(highestBit, remainder.highestBit);
     clear();
-    if (result.quotientTop >= 0) {
-        ensureSize(wordIndex(result.quotientTop));
-        storeWords(data, result.quotient, result.quotientTop);
-        highestBit = result.quotientTop;
+    if (quotientTop >= 0) {
+        ensureSize(wordIndex(quotientTop));
+        std::copy_n(result.quotient, limbCount(quotientTop), data);
+        highestBit = quotientTop;
     }
     negative = dividendNegative != divisorNegative;
     Representation::replaceMagnitude(remainder, dividend.top, result.remainder,
-                                     result.remainderTop);
+                                     result.remainderCount);
     remainder.negative = dividendNegative;
 }
 
@@ -58,10 +60,11 @@ LargeInteger& LargeInteger::operator%=(LargeInteger const& divisor) noexcept {
     if (dividend.top < 0 || by.top < 0) {
         LargeInteger zero;
         swapWith(zero);
-        return *this;
+    } else if (dividend.top >= by.top) {
+        Quotient const result(dividend, by);
+        Representation::replaceMagnitude(*this, dividend.top, result.remainder,
+                                         result.remainderCount);
     }
-    Quotient const result(dividend, by);
-    Representation::replaceMagnitude(*this, dividend.top, result.remainder, result.remainderTop);
     return *this;
 }
 
@@ -74,12 +77,18 @@ LargeInteger LargeInteger::operator/(LargeInteger const& divisor) const noexcept
     if (dividend.top < 0 || by.top < 0)
         return LargeInteger();
     Quotient const result(dividend, by);
-    return Representation::tight(result.quotient, result.quotientTop, negative != divisor.negative);
+    auto const top = static_cast<int>(topBit(result.quotient, result.quotientCount));
+    return Representation::copied(result.quotient, result.quotientCount, top,
+                                  negative != divisor.negative);
 }
 
 LargeInteger LargeInteger::operator%(LargeInteger const& divisor) const noexcept {
-    LargeInteger work(*this);
-    return LargeInteger(work %= divisor);
+    Magnitude const dividend = Representation::magnitude(*this);
+    Magnitude const by = Representation::magnitude(divisor);
+    if (dividend.top < 0 || by.top < 0)
+        return LargeInteger();
+    Quotient const result(dividend, by);
+    return Representation::copied(result.remainder, result.remainderCount, dividend.top, negative);
 }
 
 }  // namespace qel

@@ -1,13 +1,8 @@
-// Storage: construction, copies and growth. A buffer always holds size + 1 words; the guard word
-// at index `size` lets scans start one bit above the cached bound.
-//
-// Growth does not write the new guard word. No scan reaches it: growth leaves at least two spare
-// words above the highest word written.
+// Storage: construction, copies and growth.
 #include "qel/LargeInteger.h"
 
 #include "Representation.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace qel {
@@ -19,32 +14,37 @@ namespace {
 /// From this capacity on, a reset to zero releases the buffer.
 constexpr int releaseSize = 17;
 
-std::uint32_t* copiedBuffer(std::uint32_t const* source, int size) noexcept {
-    std::uint32_t* const buffer = checkedBuffer<std::uint32_t>(std::malloc(bytesFor(size)));
-    std::memcpy(buffer, source, bytesFor(size));
+/// The limb in the buffer of a new value.
+Limb* bufferWith(Limb lowest) noexcept {
+    Limb* const buffer = newBuffer(bufferLimbs(initialSize));
+    buffer[0] = lowest;
+    std::fill(buffer + 1, buffer + bufferLimbs(initialSize), Limb{0});
+    return buffer;
+}
+
+Limb* copiedBuffer(Limb const* source, int size) noexcept {
+    Limb* const buffer = newBuffer(bufferLimbs(size));
+    std::memcpy(buffer, source, bufferLimbs(size) * sizeof(Limb));
     return buffer;
 }
 
 /// |v| as an unsigned value: negating before widening would overflow for the most negative v.
-std::uint64_t magnitude(long long v) noexcept {
-    return v < 0 ? 0 - static_cast<std::uint64_t>(v) : static_cast<std::uint64_t>(v);
+Limb magnitudeOf(long long v) noexcept {
+    return v < 0 ? 0 - static_cast<Limb>(v) : static_cast<Limb>(v);
 }
 
 }  // namespace
 
 LargeInteger::LargeInteger() noexcept
-    : data(zeroedBuffer(initialSize)), size(initialSize), highestBit(-1), negative(false) {}
+    : data(bufferWith(0)), size(initialSize), highestBit(-1), negative(false) {}
 
 LargeInteger::LargeInteger(int v) noexcept : LargeInteger(static_cast<long long>(v)) {}
 
 LargeInteger::LargeInteger(unsigned int v) noexcept : LargeInteger(static_cast<long long>(v)) {}
 
-LargeInteger::LargeInteger(long long v) noexcept : LargeInteger() {
-    negative = v < 0;
-    data[0] = static_cast<std::uint32_t>(magnitude(v));
-    data[1] = static_cast<std::uint32_t>(magnitude(v) >> bitsPerWord);
-    Representation::refreshHighestBit(*this, 2LL * bitsPerWord - 1);
-}
+LargeInteger::LargeInteger(long long v) noexcept
+    : data(bufferWith(magnitudeOf(v))), size(initialSize),
+      highestBit(limbs::bitsPerLimb - 1 - std::countl_zero(magnitudeOf(v))), negative(v < 0) {}
 
 // Sized by the source's cached bound, where assignment goes by its exact top.
 LargeInteger::LargeInteger(LargeInteger const& source) noexcept
@@ -75,10 +75,15 @@ LargeInteger& LargeInteger::operator=(LargeInteger const& source) noexcept {
     if (this == &source)
         return *this;
     highestBit = source.getHighestBit();
-    size = tightSize(highestBit);
+    int const newSize = tightSize(highestBit);
     negative = source.negative;
-    std::free(data);
-    data = copiedBuffer(source.data, size);
+    if (bufferLimbs(newSize) == bufferLimbs(size)) {
+        std::memcpy(data, source.data, bufferLimbs(newSize) * sizeof(Limb));
+    } else {
+        std::free(data);
+        data = copiedBuffer(source.data, newSize);
+    }
+    size = newSize;
     return *this;
 }
 
@@ -107,9 +112,9 @@ void LargeInteger::clear() noexcept {
     if (size >= releaseSize) {
         std::free(data);
         size = initialSize;
-        data = zeroedBuffer(size);
+        data = bufferWith(0);
     } else {
-        std::memset(data, 0, bytesFor(size));
+        std::fill_n(data, limbCount(highestBit), Limb{0});
     }
     highestBit = -1;
     negative = false;
@@ -119,45 +124,42 @@ void LargeInteger::ensureSize(int w) noexcept {
     int const newSize = grownSize(size, w);
     if (newSize == size)
         return;
-    data = checkedBuffer<std::uint32_t>(std::realloc(data, bytesFor(newSize)));
-    std::fill(data + size, data + newSize, 0U);
+    data = checkedBuffer(std::realloc(data, bufferLimbs(newSize) * sizeof(Limb)));
+    std::fill(data + bufferLimbs(size), data + bufferLimbs(newSize), Limb{0});
     size = newSize;
 }
 
-LargeInteger internal::Representation::tight(limbs::Limb const* value, long long top,
+LargeInteger internal::Representation::sized(Limb* buffer, std::size_t used, int sizeTop,
                                              bool flag) noexcept {
-    int const bound = checkedPosition(top);
-    int const size = tightSize(bound);
-    int const used = wordIndex(bound) + 1;
-    auto* const words = checkedBuffer<std::uint32_t>(std::malloc(bytesFor(size)));
-    storeWords(words, value, bound);
-    std::fill(words + used, words + size + 1, 0U);
-    return LargeInteger(words, size, bound, flag);
+    int const size = tightSize(sizeTop);
+    int const top = static_cast<int>(topBit(buffer, used));
+    for (std::size_t i = used; i < bufferLimbs(size); ++i)
+        buffer[i] = 0;
+    return LargeInteger(buffer, size, top, flag);
 }
 
-void internal::Representation::refreshHighestBit(LargeInteger& a, long long bound) noexcept {
-    a.highestBit = checkedPosition(highestSetBit(a.data, wordIndex(bound + 1)));
+LargeInteger internal::Representation::copied(Limb const* value, std::size_t count, int sizeTop,
+                                              bool flag) noexcept {
+    int const size = tightSize(sizeTop);
+    std::size_t const room = bufferLimbs(size);
+    count = std::min(count, room);  // what is above is zero
+    Limb* const buffer = newBuffer(room);
+    std::fill(std::copy_n(value, count, buffer), buffer + room, Limb{0});
+    return LargeInteger(buffer, size, static_cast<int>(topBit(value, count)), flag);
 }
 
-void internal::Representation::replaceMagnitude(LargeInteger& a, int oldTop,
-                                                limbs::Limb const* value, int top) noexcept {
-    assert(top <= oldTop && oldTop <= a.highestBit);
-    std::fill(a.data, a.data + wordIndex(oldTop) + 1, 0U);
-    storeWords(a.data, value, top);
+void internal::Representation::replaceMagnitude(LargeInteger& a, int oldTop, Limb const* value,
+                                                std::size_t count) noexcept {
+    assert(oldTop <= a.highestBit && topBit(value, count) <= oldTop);
+    std::size_t const old = limbCount(oldTop);
+    count = std::min(count, old);
+    std::fill(std::copy_n(value, count, a.data), a.data + old, Limb{0});
 }
 
-void internal::Representation::replaceZero(LargeInteger& a, limbs::Limb const* value, int top,
-                                           int capacity) noexcept {
-    assert(a.highestBit < 0 && !a.negative && tightSize(top) <= capacity);
-    if (capacity != a.size) {
-        std::free(a.data);
-        a.data = checkedBuffer<std::uint32_t>(std::malloc(bytesFor(capacity)));
-        a.size = capacity;
-    }
-    int const used = wordIndex(top) + 1;
-    storeWords(a.data, value, top);
-    std::memset(a.data + used, 0, bytesFor(a.size) - bytesFor(used - 1));
-    a.highestBit = top;
+// Room is made for each word that is two below the capacity, or higher.
+void internal::Representation::growAlong(LargeInteger& a, long long first, int last) noexcept {
+    for (int w = wordIndex(first); w <= wordIndex(last); w = std::max(w + 1, a.size - 2))
+        a.ensureSize(w);
 }
 
 }  // namespace qel

@@ -17,10 +17,10 @@ using namespace internal;
 namespace {
 
 /// The 64 bits from the highest set bit `top` of a down, with zeros below where there are fewer.
-limbs::Limb leadingLimb(limbs::Limb const* a, long long top) noexcept {
+Limb leadingLimb(Limb const* a, long long top) noexcept {
     std::size_t const i = limbCount(top) - 1;
     int const shift = std::countl_zero(a[i]);
-    limbs::Limb const below = i == 0 || shift == 0 ? 0 : a[i - 1] >> (limbs::bitsPerLimb - shift);
+    Limb const below = i == 0 || shift == 0 ? 0 : a[i - 1] >> (limbs::bitsPerLimb - shift);
     return (a[i] << shift) | below;
 }
 
@@ -28,7 +28,7 @@ limbs::Limb leadingLimb(limbs::Limb const* a, long long top) noexcept {
 ///
 /// It is the sum of theirs or one more, which the leading limbs tell nearly always: with
 /// X 2^a <= x < (X + 1) 2^a, and Y 2^b likewise, x y is below (X + 1) (Y + 1) 2^(a + b).
-long long topOfProduct(limbs::Limb const* x, limbs::Limb const* y, std::size_t count) noexcept {
+long long topOfProduct(Limb const* x, Limb const* y, std::size_t count) noexcept {
     long long const xTop = topBit(x, count);
     long long const yTop = topBit(y, count);
     limbs::DoubleLimb const leadingX = leadingLimb(x, xTop);
@@ -39,7 +39,7 @@ long long topOfProduct(limbs::Limb const* x, limbs::Limb const* y, std::size_t c
     if (leadingX * leadingY + leadingX + leadingY < half)
         return xTop + yTop;
     Workspace workspace(2 * count + limbs::multiplyScratch(count, count));
-    limbs::Limb* const product = workspace.take(2 * count);
+    Limb* const product = workspace.take(2 * count);
     limbs::multiply(product, x, count, y, count, workspace.rest());
     return topBit(product, 2 * count);
 }
@@ -101,16 +101,13 @@ LargeInteger internal::Representation::gcdOfMagnitudes(LargeInteger const& a,
     Magnitude const second = magnitude(b);
     std::size_t const count = limbCount(std::max({first.top, second.top, 0}));
     Workspace workspace(3 * count + limbs::gcdScratch(count));
-    limbs::Limb* const x = workspace.take(count);
-    limbs::Limb* const y = workspace.take(count);
-    limbs::Limb* const out = workspace.take(count);
+    Limb* const x = workspace.take(count);
+    Limb* const y = workspace.take(count);
+    Limb* const out = workspace.take(count);
     loadLimbs(x, count, first);
     loadLimbs(y, count, second);
     bool const isInSecond = limbs::gcd(out, x, y, count, workspace.rest());
-    LargeInteger divisor;
-    replaceZero(divisor, out, static_cast<int>(topBit(out, count)),
-                tightSize(isInSecond ? second.top : first.top));
-    return divisor;
+    return copied(out, count, isInSecond ? second.top : first.top, false);
 }
 
 // Extended Euclid on (m, this): the coefficients c and d follow the remainders a and b, with m
@@ -164,9 +161,9 @@ bool internal::Representation::invert(LargeInteger& a, LargeInteger const& m) no
     Magnitude const divisor = magnitude(m);
     std::size_t const count = limbCount(divisor.top);
     Workspace workspace(3 * count + limbs::inverseScratch(count));
-    limbs::Limb* const v = workspace.take(count);
-    limbs::Limb* const modulus = workspace.take(count);
-    limbs::Limb* const out = workspace.take(count);
+    Limb* const v = workspace.take(count);
+    Limb* const modulus = workspace.take(count);
+    Limb* const out = workspace.take(count);
     loadLimbs(v, count, value);
     loadLimbs(modulus, count, divisor);
     if (!limbs::inverse(out, v, modulus, count, workspace.rest()))
@@ -181,8 +178,7 @@ bool internal::Representation::invert(LargeInteger& a, LargeInteger const& m) no
         v[0] -= 1;
         bound = checkedPosition(topOfProduct(modulus, v, count));
     }
-    LargeInteger inverse;
-    replaceZero(inverse, out, static_cast<int>(topBit(out, count)), tightSize(bound));
+    LargeInteger inverse = copied(out, count, bound, false);
     inverse.highestBit = bound;
     a.swapWith(inverse);
     return true;
@@ -225,21 +221,21 @@ void internal::Representation::raise(LargeInteger& base, LargeInteger const& exp
     std::size_t const count = limbCount(divisor.top);
     std::size_t const exponentCount = limbCount(top);
     Workspace workspace(5 * count + exponentCount + limbs::powerScratch(count, top));
-    limbs::Limb* const m = workspace.take(count);
-    limbs::Limb* const b = workspace.take(count);
-    limbs::Limb* const lower = workspace.take(count);
-    limbs::Limb* const highest = workspace.take(count);
-    limbs::Limb* const result = workspace.take(count);
-    limbs::Limb* const e = workspace.take(exponentCount);
+    Limb* const m = workspace.take(count);
+    Limb* const b = workspace.take(count);
+    Limb* const lower = workspace.take(count);
+    Limb* const highest = workspace.take(count);
+    Limb* const result = workspace.take(count);
+    Limb* const e = workspace.take(exponentCount);
     loadLimbs(m, count, divisor);
     loadLimbs(b, count, magnitude(base));
     loadLimbs(e, exponentCount, exponentBits);
     limbs::power(result, lower, highest, b, e, top, m, count, workspace.rest());
 
-    base = tight(lower, topBit(lower, count), false);
-    base *= tight(highest, topBit(highest, count), false);
+    base = copied(lower, count, static_cast<int>(topBit(lower, count)), false);
+    base *= copied(highest, count, static_cast<int>(topBit(highest, count)), false);
     if (!base.isZero())
-        replaceMagnitude(base, base.highestBit, result, static_cast<int>(topBit(result, count)));
+        replaceMagnitude(base, base.highestBit, result, count);
 }
 
 }  // namespace qel

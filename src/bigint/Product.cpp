@@ -1,6 +1,7 @@
 #include "Product.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace qel::internal {
 
@@ -10,50 +11,39 @@ namespace {
 long long nextSetBit(Magnitude a, long long from) noexcept {
     if (from > a.top)
         return -1;
-    int i = wordIndex(from);
-    std::uint32_t word = a.words[i] & (~std::uint32_t{0} << (from % bitsPerWord));
-    while (word == 0)  // the bit a.top is set
-        word = a.words[++i];
-    return static_cast<long long>(i) * bitsPerWord + std::countr_zero(word);
-}
-
-std::size_t productWorkspace(Magnitude a, Magnitude b) noexcept {
-    if (a.top < 0 || b.top < 0)
-        return 0;
-    // The product's top or the position below it: one out of reach ends before the long work.
-    requireIndex(static_cast<long long>(a.top) + b.top);
-    std::size_t const longer = limbCount(std::max(a.top, b.top));
-    std::size_t const shorter = limbCount(std::min(a.top, b.top));
-    return 2 * (longer + shorter)
-           + std::max(limbs::multiplyScratch(longer, shorter), limbs::squareScratch(longer));
+    std::size_t i = limbIndex(from);
+    Limb limb = a.value[i] & (~Limb{0} << (from % limbs::bitsPerLimb));
+    while (limb == 0)  // the bit a.top is set
+        limb = a.value[++i];
+    return static_cast<long long>(i) * limbs::bitsPerLimb + std::countr_zero(limb);
 }
 
 std::size_t quotientWorkspace(Magnitude dividend, Magnitude divisor) noexcept {
-    std::size_t const count = limbCount(divisor.top);
-    return 2 * limbCount(dividend.top) + count + 2 + limbs::divideScratch(count);
+    return 2 * dividend.count() + divisor.count() + 2 + limbs::divideScratch(divisor.count());
 }
 
 }  // namespace
 
-Product::Product(Magnitude a, Magnitude b) noexcept : workspace(productWorkspace(a, b)) {
+std::size_t productLimbs(Magnitude a, Magnitude b) noexcept {
+    if (a.top < 0 || b.top < 0)
+        return 0;
+    // The product's top or the position below it: one out of reach ends before the long work.
+    requireIndex(static_cast<long long>(a.top) + b.top);
+    return a.count() + b.count();
+}
+
+void multiply(Limb* out, Magnitude a, Magnitude b) noexcept {
     if (a.top < 0 || b.top < 0)
         return;
     if (a.top < b.top)
         std::swap(a, b);
-    std::size_t const aCount = limbCount(a.top);
-    std::size_t const bCount = limbCount(b.top);
-    limbs::Limb* const out = workspace.take(aCount + bCount);
-    limbs::Limb* const aLimbs = workspace.take(aCount);
-    loadLimbs(aLimbs, aCount, a);
-    if (a.words == b.words) {
-        limbs::square(out, aLimbs, aCount, workspace.rest());
-    } else {
-        limbs::Limb* const bLimbs = workspace.take(bCount);
-        loadLimbs(bLimbs, bCount, b);
-        limbs::multiply(out, aLimbs, aCount, bLimbs, bCount, workspace.rest());
-    }
-    value = out;
-    top = checkedPosition(topBit(out, aCount + bCount));
+    bool const isSquare = a.value == b.value;
+    Workspace workspace(isSquare ? limbs::squareScratch(a.count())
+                                 : limbs::multiplyScratch(a.count(), b.count()));
+    if (isSquare)
+        limbs::square(out, a.value, a.count(), workspace.rest());
+    else
+        limbs::multiply(out, a.value, a.count(), b.value, b.count(), workspace.rest());
 }
 
 int productCapacity(Magnitude a, int bTop) noexcept {
@@ -72,34 +62,41 @@ int productCapacity(Magnitude a, int bTop) noexcept {
 }
 
 Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
-    : remainderTop(dividend.top), workspace(quotientWorkspace(dividend, divisor)) {
-    std::size_t const aCount = limbCount(dividend.top);
-    std::size_t const count = limbCount(divisor.top);
-    limbs::Limb* const a = workspace.take(aCount + 1);
-    limbs::Limb* const q = workspace.take(aCount + 1);
-    limbs::Limb* const d = workspace.take(count);
-    loadLimbs(a, aCount, dividend);
-    remainder = a;
-    if (dividend.top < divisor.top)
+    : remainderCount(dividend.count()), workspace(quotientWorkspace(dividend, divisor)) {
+    std::size_t const aCount = dividend.count();
+    std::size_t const count = divisor.count();
+    if (dividend.top < divisor.top) {
+        Limb* const a = workspace.take(aCount);
+        loadLimbs(a, aCount, dividend);
+        remainder = a;
         return;
-    loadLimbs(d, count, divisor);
+    }
+    Limb* const a = workspace.take(aCount + 1);
+    Limb* const q = workspace.take(aCount + 1);
+    remainder = a;
     quotient = q;
+    remainderCount = count;
     if (count == 1) {
-        a[0] = limbs::divideLimb(q, a, aCount, d[0]);
-        quotientTop = static_cast<int>(topBit(q, aCount));
-        remainderTop = static_cast<int>(topBit(a, 1));
+        a[0] = limbs::divideLimb(q, dividend.value, aCount, divisor.value[0]);
+        quotientCount = aCount;
         return;
     }
     // D1: both shifted left until the divisor's highest bit is set.
-    int const shift = std::countl_zero(d[count - 1]);
-    a[aCount] = shift == 0 ? 0 : limbs::shiftLeft(a, a, aCount, shift);
-    if (shift != 0)
-        limbs::shiftLeft(d, d, count, shift);
+    int const shift = std::countl_zero(divisor.value[count - 1]);
+    Limb const* d = divisor.value;
+    a[aCount] = 0;
+    if (shift == 0) {
+        std::copy_n(dividend.value, aCount, a);
+    } else {
+        Limb* const shifted = workspace.take(count);
+        limbs::shiftLeft(shifted, divisor.value, count, shift);
+        d = shifted;
+        a[aCount] = limbs::shiftLeft(a, dividend.value, aCount, shift);
+    }
     limbs::divide(q, a, aCount + 1, d, count, workspace.rest());
     if (shift != 0)
         limbs::shiftRight(a, a, count, shift);
-    quotientTop = static_cast<int>(topBit(q, aCount + 1 - count));
-    remainderTop = static_cast<int>(topBit(a, count));
+    quotientCount = aCount + 1 - count;
 }
 
 }  // namespace qel::internal

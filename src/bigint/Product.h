@@ -1,22 +1,14 @@
-// The product and the quotient of two magnitudes as limbs, computed before any of the operands'
-// objects changes: so an operand may be the result's own object.
+// The product and the quotient of two magnitudes as limbs.
 #pragma once
 
 #include "Storage.h"
 
 namespace qel::internal {
 
-class Product {
-  public:
-    Product(Magnitude a, Magnitude b) noexcept;
-
-    /// The limbs of the product, and its exact top; no limbs when the top is -1.
-    limbs::Limb const* value = nullptr;
-    int top = -1;
-
-  private:
-    Workspace workspace;
-};
+/// The limbs of a product; none for zero. Ends the process for one that is too wide to index.
+[[nodiscard]] std::size_t productLimbs(Magnitude a, Magnitude b) noexcept;
+/// out[0, productLimbs(a, b)) = a * b; `out` is neither.
+void multiply(Limb* out, Magnitude a, Magnitude b) noexcept;
 
 /// The capacity that adding up the shifted copies of b, one for each set bit of a, leaves.
 ///
@@ -24,15 +16,17 @@ class Product {
 /// top(b) + i + 1, and the capacity follows from the positions of a's set bits alone.
 [[nodiscard]] int productCapacity(Magnitude a, int bTop) noexcept;
 
+/// A quotient and its remainder, computed before any of the operands' objects changes: so an
+/// operand may be the result's own object.
 class Quotient {
   public:
     /// Divides; neither operand is zero.
     Quotient(Magnitude dividend, Magnitude divisor) noexcept;
 
-    limbs::Limb const* quotient = nullptr;
-    int quotientTop = -1;
-    limbs::Limb const* remainder = nullptr;
-    int remainderTop;
+    Limb const* quotient = nullptr;
+    std::size_t quotientCount = 0;
+    Limb const* remainder = nullptr;
+    std::size_t remainderCount;
 
   private:
     Workspace workspace;

@@ -9,31 +9,49 @@ namespace qel::internal {
 
 struct Representation {
     [[nodiscard]] static Magnitude magnitude(LargeInteger const& a) noexcept {
-        return {a.data, a.getHighestBit()};
+        return {a.data, static_cast<int>(topBit(a.data, limbIndex(a.highestBit + 1LL) + 1))};
     }
-    /// A value as a copy has it: an exact bound, and a tight buffer.
-    [[nodiscard]] static LargeInteger tight(limbs::Limb const* value, long long top,
+    /// A buffer for a result of at most `count` limbs.
+    [[nodiscard]] static Limb* resultBuffer(std::size_t count) noexcept {
+        return newBuffer(std::max(count + 1, bufferLimbs(initialSize)));
+    }
+    /// The value in the first `used` limbs of a result's buffer, as a copy has it: with an exact
+    /// bound and a tight capacity.
+    [[nodiscard]] static LargeInteger tight(Limb* buffer, std::size_t used, bool flag) noexcept {
+        return sized(buffer, used, checkedPosition(topBit(buffer, used)), flag);
+    }
+    /// The same with the capacity of a tight copy of a value with the top `sizeTop`.
+    [[nodiscard]] static LargeInteger sized(Limb* buffer, std::size_t used, int sizeTop,
                                             bool flag) noexcept;
+    /// A copy of limbs that stay where they are.
+    [[nodiscard]] static LargeInteger copied(Limb const* value, std::size_t count, int sizeTop,
+                                             bool flag) noexcept;
 
     /// Stores the exact top bit, given that it is at or below bound + 1: an operation that may have
     /// carried one bit past the old top raises the bound by one and rescans.
-    static void refreshHighestBit(LargeInteger& a, long long bound) noexcept;
-    /// Replaces the magnitude, whose top is `oldTop`, by one that is no longer; capacity, cached
-    /// bound and flag stay.
-    static void replaceMagnitude(LargeInteger& a, int oldTop, limbs::Limb const* value,
-                                 int top) noexcept;
-    /// Replaces a plain zero by a value with an exact bound and the given capacity.
-    static void replaceZero(LargeInteger& a, limbs::Limb const* value, int top,
-                            int capacity) noexcept;
+    static void refreshHighestBit(LargeInteger& a, long long bound) noexcept {
+        a.highestBit = checkedPosition(topBit(a.data, limbIndex(bound + 1) + 1));
+    }
+    /// Replaces the magnitude, whose top is `oldTop`, by `count` limbs of one that is no longer;
+    /// capacity, cached bound and flag stay.
+    static void replaceMagnitude(LargeInteger& a, int oldTop, Limb const* value,
+                                 std::size_t count) noexcept;
+    /// Grows as setting each bit from `first` to `last` does, in this order.
+    static void growAlong(LargeInteger& a, long long first, int last) noexcept;
 
-    static void addMagnitude(LargeInteger& a, LargeInteger const& b) noexcept;
-    static void subtractMagnitude(LargeInteger& a, LargeInteger const& b) noexcept;
+    /// a + b or, with `subtract`, a - b.
+    /// @param bBound the cached bound of b, which may tell the capacity
+    static void add(LargeInteger& a, Magnitude b, int bBound, bool bNegative,
+                    bool subtract) noexcept;
+    [[nodiscard]] static LargeInteger sum(LargeInteger const& a, LargeInteger const& b,
+                                          bool subtract) noexcept;
 
     static void shiftBy(LargeInteger& a, long long distance, int from) noexcept;
     static void shiftLeft(LargeInteger& a, long long count) noexcept;
     static void shiftRight(LargeInteger& a, long long count) noexcept;
     static void shiftLeftFrom(LargeInteger& a, int from, long long count) noexcept;
     static void shiftRightFrom(LargeInteger& a, int from, long long count) noexcept;
+    [[nodiscard]] static LargeInteger shifted(LargeInteger const& a, long long distance) noexcept;
 
     static void subtractWhileLarger(LargeInteger& a, LargeInteger const& b) noexcept;
     [[nodiscard]] static LargeInteger gcdOfMagnitudes(LargeInteger const& a,
@@ -42,6 +60,7 @@ struct Representation {
     static void raise(LargeInteger& base, LargeInteger const& exponent,
                       LargeInteger const& modulus) noexcept;
 
+    static void become(LargeInteger& a, Limb const* value, int top, int capacity) noexcept;
     template <int bits>
     static void parseBits(LargeInteger& a, char const* text) noexcept;
     static void parseDecimal(LargeInteger& a, char const* text) noexcept;

@@ -1,35 +1,39 @@
-// The buffers of LargeInteger, and limbs in place of words: what the upper storey needs to call
-// the kernels below it.
+// The buffers of LargeInteger and the limbs in them. A buffer has room for the words of its
+// capacity and one more, the guard, and all its bits above the highest set one are zero: a scan may
+// start above the cached bound.
 #pragma once
 
-#include "EndProcess.h"
 #include "Words.h"
 #include "limbs/Limbs.h"
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cassert>
 #include <cstdlib>
 #include <cstring>
 
 namespace qel::internal {
 
+using limbs::Limb;
+
 /// The capacity of a new value, and the least there is.
 inline constexpr int initialSize = 4;
 
-template <typename Unit>
-Unit* checkedBuffer(void* buffer) noexcept {
+inline Limb* checkedBuffer(void* buffer) noexcept {
     if (buffer == nullptr)
         endProcess("out of memory");
-    return static_cast<Unit*>(buffer);
+    return static_cast<Limb*>(buffer);
 }
 
-/// The bytes of a buffer of `size` words and the guard.
-inline std::size_t bytesFor(int size) noexcept {
-    return (static_cast<std::size_t>(size) + 1) * sizeof(std::uint32_t);
+/// Not filled.
+inline Limb* newBuffer(std::size_t limbCount) noexcept {
+    return checkedBuffer(std::malloc(limbCount * sizeof(Limb)));
 }
 
-inline std::uint32_t* zeroedBuffer(int size) noexcept {
-    return checkedBuffer<std::uint32_t>(std::calloc(1, bytesFor(size)));
+/// The limbs of a buffer of `size` words and the guard.
+constexpr std::size_t bufferLimbs(int size) noexcept {
+    return static_cast<std::size_t>(size) / 2 + 1;
 }
 
 /// The capacity of a tight copy of a value whose top bit is at or below `bound`.
@@ -47,35 +51,18 @@ inline int grownSize(int size, long long w) noexcept {
     return static_cast<int>(grown);
 }
 
-/// The limbs that hold bits 0 to `top`.
-inline std::size_t limbCount(long long top) noexcept {
-    return static_cast<std::size_t>(top / limbs::bitsPerLimb) + 1;
+/// The index of the limb that holds bit `position`.
+constexpr std::size_t limbIndex(long long position) noexcept {
+    return static_cast<std::size_t>(position) / limbs::bitsPerLimb;
 }
 
-/// A magnitude to compute with: words, and the exact index of the highest set bit (-1 for zero).
-struct Magnitude {
-    std::uint32_t const* words;
-    int top;
-};
-
-/// Copies a magnitude to `count` limbs, with zeros above. On a machine that stores the lowest byte
-/// first, two words in a row have the bytes of a limb.
-inline void loadLimbs(limbs::Limb* out, std::size_t count, Magnitude a) noexcept {
-    static_assert(std::endian::native == std::endian::little);
-    std::size_t const wordCount = static_cast<std::size_t>(wordIndex(a.top)) + 1;
-    assert(wordCount <= 2 * count);
-    for (std::size_t i = wordCount / 2; i < count; ++i)
-        out[i] = 0;
-    std::memcpy(out, a.words, wordCount * sizeof *a.words);
-}
-
-inline void storeWords(std::uint32_t* words, limbs::Limb const* in, int top) noexcept {
-    if (top >= 0)
-        std::memcpy(words, in, (static_cast<std::size_t>(wordIndex(top)) + 1) * sizeof *words);
+/// The limbs that hold bits 0 to `top`; none for -1.
+constexpr std::size_t limbCount(long long top) noexcept {
+    return static_cast<std::size_t>(top + limbs::bitsPerLimb) / limbs::bitsPerLimb;
 }
 
 /// The index of the highest set bit of count limbs, -1 for zero.
-inline long long topBit(limbs::Limb const* a, std::size_t count) noexcept {
+inline long long topBit(Limb const* a, std::size_t count) noexcept {
     std::size_t const length = limbs::significant(a, count);
     if (length == 0)
         return -1;
@@ -83,14 +70,33 @@ inline long long topBit(limbs::Limb const* a, std::size_t count) noexcept {
            - std::countl_zero(a[length - 1]);
 }
 
+/// A magnitude to compute with: limbs, and the exact index of the highest set bit (-1 for zero).
+struct Magnitude {
+    Limb const* value;
+    int top;
+
+    [[nodiscard]] std::size_t count() const noexcept { return limbCount(top); }
+};
+
+/// 1, 0 or -1.
+inline int compareMagnitudes(Magnitude a, Magnitude b) noexcept {
+    if (a.top != b.top)
+        return a.top > b.top ? 1 : -1;
+    return limbs::compare(a.value, b.value, a.count());
+}
+
+/// Copies a magnitude to `count` limbs, with zeros above.
+inline void loadLimbs(Limb* out, std::size_t count, Magnitude a) noexcept {
+    assert(a.count() <= count);
+    std::fill(std::copy_n(a.value, a.count(), out), out + count, Limb{0});
+}
+
 /// Limbs for the time of one operation: on the stack for the sizes of keys. Not filled.
 class Workspace {
   public:
     explicit Workspace(std::size_t count) noexcept
-        : memory(count <= local.size()
-                     ? local.data()
-                     : checkedBuffer<limbs::Limb>(std::malloc(count * sizeof(limbs::Limb)))),
-          next(memory), end(memory + count) {}
+        : memory(count <= local.size() ? local.data() : newBuffer(count)), next(memory),
+          end(memory + count) {}
 
     ~Workspace() {
         if (memory != local.data())
@@ -101,21 +107,21 @@ class Workspace {
     Workspace& operator=(Workspace const&) = delete;
 
     /// The next `count` limbs.
-    limbs::Limb* take(std::size_t count) noexcept {
+    Limb* take(std::size_t count) noexcept {
         assert(count <= static_cast<std::size_t>(end - next));
-        limbs::Limb* const taken = next;
+        Limb* const taken = next;
         next += count;
         return taken;
     }
 
     /// All limbs that are left, as scratch.
-    [[nodiscard]] limbs::Limb* rest() const noexcept { return next; }
+    [[nodiscard]] Limb* rest() const noexcept { return next; }
 
   private:
-    std::array<limbs::Limb, 640> local;
-    limbs::Limb* memory;
-    limbs::Limb* next;
-    limbs::Limb* end;
+    std::array<Limb, 640> local;
+    Limb* memory;
+    Limb* next;
+    Limb* end;
 };
 
 }  // namespace qel::internal

@@ -18,12 +18,14 @@ namespace {
 
 // --- out ----------------------------------------------------------------------------------------
 
-/// The `count` <= 32 bits from `position` up; those above the top are 0.
-std::uint64_t bitsFrom(Magnitude a, long long position, int count) noexcept {
-    int const i = wordIndex(position);
-    std::uint64_t const above = i < wordIndex(a.top) ? a.words[i + 1] : 0;
-    std::uint64_t const pair = (above << bitsPerWord) | a.words[i];
-    return pair >> (position % bitsPerWord) & ((std::uint64_t{1} << count) - 1);
+/// The `count` < 64 bits from `position` up; those above the top are 0.
+Limb bitsFrom(Magnitude a, long long position, int count) noexcept {
+    std::size_t const i = limbIndex(position);
+    auto const shift = static_cast<int>(position % limbs::bitsPerLimb);
+    Limb bits = a.value[i] >> shift;
+    if (shift != 0 && i + 1 < a.count())
+        bits |= a.value[i + 1] << (limbs::bitsPerLimb - shift);
+    return bits & ((Limb{1} << count) - 1);
 }
 
 /// Digits of `bits` bits each, behind the sign if there is one.
@@ -36,7 +38,7 @@ std::string textOfBits(Magnitude a, bool negative) noexcept {
     std::size_t left = length;
     long long position = 0;
     auto const nextBlock = [&] {
-        std::uint64_t const digits = bitsFrom(a, position, bitsPerBlock);
+        Limb const digits = bitsFrom(a, position, bitsPerBlock);
         position += bitsPerBlock;
         return limbs::toCharacters(limbs::splitBits<bits>(digits));
     };
@@ -53,7 +55,7 @@ std::string textOfDecimal(Magnitude a, bool negative) noexcept {
     std::size_t const count = limbCount(a.top);
     std::size_t const groups = limbs::decimalGroups(count);
     Workspace workspace(count + 1 + limbs::toDecimalScratch(groups));
-    limbs::Limb* const rest = workspace.take(count + 1);
+    Limb* const rest = workspace.take(count + 1);
     loadLimbs(rest, count, a);
     std::string text(1 + groups * limbs::digitsPerGroup, '0');
     limbs::toDecimal(text.data() + 1, groups, rest, count, workspace.rest());
@@ -81,10 +83,10 @@ constexpr unsigned int digitValue(char c) noexcept {
 /// Fills limbs with bits from the lowest up.
 class LimbFiller {
   public:
-    explicit LimbFiller(limbs::Limb* first) noexcept : out(first) {}
+    explicit LimbFiller(Limb* first) noexcept : out(first) {}
 
     /// Adds `count` <= 32 bits.
-    void put(limbs::Limb bits, int count) noexcept {
+    void put(Limb bits, int count) noexcept {
         gathered |= bits << filled;
         filled += count;
         if (filled >= limbs::bitsPerLimb) {
@@ -95,14 +97,14 @@ class LimbFiller {
     }
 
     /// Writes the rest; returns the end of the limbs.
-    limbs::Limb* finish() noexcept {
+    Limb* finish() noexcept {
         *out++ = gathered;
         return out;
     }
 
   private:
-    limbs::Limb* out;
-    limbs::Limb gathered = 0;
+    Limb* out;
+    Limb gathered = 0;
     int filled = 0;
 };
 
@@ -119,7 +121,7 @@ void readBits(LimbFiller& out, std::string_view text) noexcept {
     std::size_t left = text.size();
     while (left >= limbs::digitsPerBlock) {
         left -= limbs::digitsPerBlock;
-        limbs::Limb digits = 0;
+        Limb digits = 0;
         unsigned int seen = 0;
         for (std::size_t i = left; i < left + limbs::digitsPerBlock; ++i) {
             unsigned int const digit = digitValue(text[i]);
@@ -221,39 +223,51 @@ template <int bits>
 void internal::Representation::parseBits(LargeInteger& a, char const* text) noexcept {
     std::string_view const characters(text);
     Workspace workspace(characters.size() * bits / limbs::bitsPerLimb + 1);
-    limbs::Limb* const value = workspace.rest();
+    Limb* const value = workspace.rest();
     LimbFiller filler(value);
     readBits<bits>(filler, characters);
     auto const count = static_cast<std::size_t>(filler.finish() - value);
     int const top = checkedPosition(topBit(value, count));
-    replaceZero(a, value, top, capacityAfterDigits(a.size, top, bits));
+    become(a, value, top, capacityAfterDigits(a.size, top, bits));
 }
 
-/// Reads into a plain zero. A product has a fresh buffer, so the books are those of the last
-/// multiplication by ten and addition of a digit. The factor, all digits before the last, stands in
-/// the object's words while its bits tell the product's capacity.
+/// Reads into a plain zero. A product has a fresh buffer, so bound and capacity are those of the
+/// last multiplication by ten and addition of a digit.
 void internal::Representation::parseDecimal(LargeInteger& a, char const* text) noexcept {
     std::string copy;
     std::string_view digits = decimalDigits(text, copy);
     if (digits.empty())
         return;
-    auto const last = static_cast<limbs::Limb>(digits.back() - '0');
+    auto const last = static_cast<Limb>(digits.back() - '0');
     digits.remove_suffix(1);
     digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
     std::size_t const groups = limbs::groupsOf(digits.size());
     std::size_t const count = groups + 1;
     Workspace workspace(count + limbs::fromDecimalScratch(groups));
-    limbs::Limb* const value = workspace.take(count);
+    Limb* const value = workspace.take(count);
     limbs::fromDecimal(value, digits.data(), digits.size(), workspace.rest());
     value[groups] = 0;
     int const factorTop = checkedPosition(topBit(value, count));
-    a.ensureSize(wordIndex(factorTop));
-    storeWords(a.data, value, factorTop);
+    int const productSize = productCapacity({value, factorTop}, topOfTen);
     limbs::multiplyLimb(value, value, count, 10);
-    int const capacity = grownSize(productCapacity({a.data, factorTop}, topOfTen),
-                                   wordIndex(topBit(value, count) + 1) + 1);
+    int const capacity = grownSize(productSize, wordIndex(topBit(value, count) + 1) + 1);
     limbs::addLimb(value, value, count, last);
-    replaceZero(a, value, checkedPosition(topBit(value, count)), capacity);
+    become(a, value, checkedPosition(topBit(value, count)), capacity);
+}
+
+/// A plain zero becomes a value with an exact bound and the given capacity.
+void internal::Representation::become(LargeInteger& a, Limb const* value, int top,
+                                      int capacity) noexcept {
+    assert(a.highestBit < 0 && !a.negative && tightSize(top) <= capacity);
+    std::size_t const count = limbCount(top);
+    if (capacity != a.size) {
+        std::free(a.data);
+        a.data = newBuffer(bufferLimbs(capacity));
+        a.size = capacity;
+        std::fill(a.data + count, a.data + bufferLimbs(capacity), Limb{0});
+    }
+    std::copy_n(value, count, a.data);
+    a.highestBit = top;
 }
 
 }  // namespace qel

@@ -1,10 +1,9 @@
-// Words and bit positions of a magnitude. Positions are computed in 64 bits, so that sums of
-// ints near the ends of their range stay exact.
+// Bit positions of a magnitude. They are computed in 64 bits, so that sums of ints near the ends of
+// their range stay exact.
 #pragma once
 
 #include "EndProcess.h"
 
-#include <bit>
 #include <climits>
 #include <cstdint>
 
@@ -18,15 +17,6 @@ inline constexpr int bitsPerWord = 32;
 /// The index of the word that holds bit `position`; -1 for position -1.
 constexpr int wordIndex(long long position) noexcept {
     return static_cast<int>(position >> 5);
-}
-
-/// The index of the highest set bit of words[0] to words[top], -1 when all are zero.
-inline long long highestSetBit(std::uint32_t const* words, int top) noexcept {
-    for (int i = top; i >= 0; --i) {
-        if (words[i] != 0)
-            return static_cast<long long>(i) * bitsPerWord + std::bit_width(words[i]) - 1;
-    }
-    return -1;
 }
 
 /// Ends the process for a position that no int can index.

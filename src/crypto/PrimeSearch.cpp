@@ -83,7 +83,7 @@ class CandidateWalk {
     }
 
     [[nodiscard]] LargeInteger prime() const noexcept {
-        return Representation::tight(found, topBit(found, count), false);
+        return Representation::copied(found, count, checkedPosition(topBit(found, count)), false);
     }
 
   private:

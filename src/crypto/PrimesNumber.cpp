@@ -40,7 +40,7 @@ bool PrimesNumber::isProbablyPrime(LargeInteger const& n, int witnessCount) noex
         return false;
 
     Magnitude const magnitude = Representation::magnitude(n);
-    std::size_t const count = limbCount(magnitude.top);
+    std::size_t const count = magnitude.count();
     Workspace workspace(count + witnessScratch(count));
     limbs::Limb* const number = workspace.take(count);
     loadLimbs(number, count, magnitude);

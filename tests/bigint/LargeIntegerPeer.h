@@ -14,7 +14,9 @@ struct LargeIntegerPeer {
     static int size(LargeInteger const& v) { return v.size; }
     static int highestBit(LargeInteger const& v) { return v.highestBit; }
     static bool negative(LargeInteger const& v) { return v.negative; }
-    static std::uint32_t word(LargeInteger const& v, int i) { return v.data[i]; }
+    static std::uint32_t word(LargeInteger const& v, int i) {
+        return static_cast<std::uint32_t>(v.data[i / 2] >> (i % 2 * 32));
+    }
 };
 
 // GoogleTest finds this one by its name.

@@ -40,6 +40,8 @@ Limb subtractLimb(Limb* out, Limb const* a, std::size_t count, Limb borrow) noex
 int compare(Limb const* a, Limb const* b, std::size_t count) noexcept;
 /// The count without zero limbs on top; 0 for zero.
 std::size_t significant(Limb const* a, std::size_t count) noexcept;
+/// The number of set bits.
+[[nodiscard]] long long countBits(Limb const* a, std::size_t count) noexcept;
 /// out = a << bits, for 0 < bits < 64; returns the bits shifted out.
 Limb shiftLeft(Limb* out, Limb const* a, std::size_t count, int bits) noexcept;
 /// out = a >> bits, for 0 < bits < 64.

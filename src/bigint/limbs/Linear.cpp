@@ -44,6 +44,20 @@ std::size_t significant(Limb const* a, std::size_t count) noexcept {
     return count;
 }
 
+// Counts in fields of 2, 4 and 8 bits side by side (Warren, Hacker's Delight, 5-1): not every
+// processor that this runs on has an instruction for it.
+long long countBits(Limb const* a, std::size_t count) noexcept {
+    Limb total = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        Limb x = a[i];
+        x -= x >> 1 & 0x5555555555555555;
+        x = (x & 0x3333333333333333) + (x >> 2 & 0x3333333333333333);
+        x = (x + (x >> 4)) & 0x0F0F0F0F0F0F0F0F;
+        total += x * 0x0101010101010101 >> 56;
+    }
+    return static_cast<long long>(total);
+}
+
 // From the top down, so that out may be a.
 Limb shiftLeft(Limb* out, Limb const* a, std::size_t count, int bits) noexcept {
     int const rest = bitsPerLimb - bits;
