@@ -103,7 +103,7 @@ class File {
     ///
     /// False for a folder and where there is nothing, with `text` as it was, and for a file that
     /// does not open, with `text` empty. True with an empty `text` when there is no word. White
-    /// space is that of the "C" locale. `path` must not point into `text`, which is cleared first.
+    /// space is that of the "C" locale. `path` may be the text's own.
     ///
     /// A pipe that stays open is waited for as long as the standard library's stream waits: until
     /// white space ends the word with libstdc++, until 4096 bytes have come with libc++.
