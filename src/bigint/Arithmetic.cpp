@@ -21,16 +21,23 @@ void addMagnitudes(Limb* out, Magnitude a, Magnitude b) noexcept {
         std::swap(a, b);
     std::size_t const count = a.count();
     std::size_t const common = b.count();
-    Limb carry = common == 0 ? 0 : limbs::add(out, a.value, b.value, common);
-    carry = limbs::addLimb(out + common, a.value + common, count - common, carry);
-    out[count] = carry;
+    if (common <= 1) {
+        out[count] = limbs::addLimb(out, a.value, count, common == 0 ? 0 : b.value[0]);
+        return;
+    }
+    Limb const carry = limbs::add(out, a.value, b.value, common);
+    out[count] = limbs::addLimb(out + common, a.value + common, count - common, carry);
 }
 
 /// out = a - b for a >= b, which has the limbs of a; `out` may be either.
 void subtractMagnitudes(Limb* out, Magnitude a, Magnitude b) noexcept {
     std::size_t const count = a.count();
     std::size_t const common = b.count();
-    Limb const borrow = common == 0 ? 0 : limbs::subtract(out, a.value, b.value, common);
+    if (common <= 1) {
+        limbs::subtractLimb(out, a.value, count, common == 0 ? 0 : b.value[0]);
+        return;
+    }
+    Limb const borrow = limbs::subtract(out, a.value, b.value, common);
     limbs::subtractLimb(out + common, a.value + common, count - common, borrow);
 }
 
@@ -40,10 +47,11 @@ void subtractMagnitudes(Limb* out, Magnitude a, Magnitude b) noexcept {
 // subtracted from the larger, which leaves the bound where it was. Where that is b, the object
 // first becomes a copy of b: one sized by the top of b when its sign was dropped before or the
 // object is negative, otherwise one sized by b's cached bound.
-void internal::Representation::add(LargeInteger& a, Magnitude b, int bBound, bool bNegative,
+void internal::Representation::add(LargeInteger& a, Magnitude b, int bBound, bool bFlag,
                                    bool subtract) noexcept {
     Magnitude const old = magnitude(a);
     bool const aNegative = a.negative && old.top >= 0;
+    bool const bNegative = bFlag && b.top >= 0;
     if (bNegative)
         bBound = b.top;
     if (aNegative == (bNegative != subtract)) {
@@ -88,12 +96,12 @@ LargeInteger internal::Representation::sum(LargeInteger const& a, LargeInteger c
 }
 
 LargeInteger& LargeInteger::operator+=(LargeInteger const& b) noexcept {
-    Representation::add(*this, Representation::magnitude(b), b.highestBit, b.isNegative(), false);
+    Representation::add(*this, Representation::magnitude(b), b.highestBit, b.negative, false);
     return *this;
 }
 
 LargeInteger& LargeInteger::operator-=(LargeInteger const& b) noexcept {
-    Representation::add(*this, Representation::magnitude(b), b.highestBit, b.isNegative(), true);
+    Representation::add(*this, Representation::magnitude(b), b.highestBit, b.negative, true);
     return *this;
 }
 

@@ -126,24 +126,26 @@ void LargeInteger::setBitRangeAsInt(int start, int count, unsigned int value) no
     }
 }
 
+// As large as a new value grown for bit n.
 LargeInteger LargeInteger::getBitRange(int start, int count) const noexcept {
-    LargeInteger range;
-    long long const n = std::min(getHighestBit() + 1LL - start, static_cast<long long>(count));
+    Magnitude const whole = Representation::magnitude(*this);
+    long long const n = std::min(whole.top + 1LL - start, static_cast<long long>(count));
     if (start < 0 || n <= 0)
-        return range;
-    range.ensureSize(wordIndex(n));
+        return LargeInteger();
+    int const newSize = grownSize(initialSize, wordIndex(n));
     std::size_t const used = limbCount(n - 1);
-    std::size_t const first = limbIndex(start);
+    Limb* const out = newBuffer(bufferLimbs(newSize));
+    Limb const* const first = data + limbIndex(start);
     auto const shift = static_cast<int>(start % limbs::bitsPerLimb);
     if (shift == 0)
-        std::copy_n(data + first, used, range.data);
+        std::copy_n(first, used, out);
     else
-        limbs::shiftRight(range.data, data + first, used, shift);
+        limbs::shiftRight(out, first, used, shift);
     // The last limb takes bits from above, and gives up those beyond the range.
     long long const done = static_cast<long long>(used - 1) * limbs::bitsPerLimb;
-    range.data[used - 1] = bitsFrom(data, highestBit, start + done, n - done);
-    Representation::refreshHighestBit(range, n - 1);
-    return range;
+    out[used - 1] = bitsFrom(data, highestBit, start + done, n - done);
+    std::fill(out + used, out + bufferLimbs(newSize), Limb{0});
+    return LargeInteger(out, newSize, static_cast<int>(topBit(out, used)), false);
 }
 
 int LargeInteger::findNextSetBit(int start) const noexcept {

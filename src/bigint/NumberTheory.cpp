@@ -1,6 +1,7 @@
 // Greatest common divisor, modular inverse, modular power.
 #include "qel/LargeInteger.h"
 
+#include "Product.h"
 #include "Representation.h"
 #include "limbs/Gcd.h"
 #include "limbs/Power.h"
@@ -8,6 +9,8 @@
 #include <algorithm>
 #include <cassert>
 #include <cstdlib>
+#include <numeric>
+#include <optional>
 #include <utility>
 
 namespace qel {
@@ -77,20 +80,24 @@ void internal::Representation::subtractWhileLarger(LargeInteger& a,
 // Euclid's algorithm while the sizes differ, then repeated subtraction.
 LargeInteger LargeInteger::findGreatestCommonDivisor(LargeInteger other) const noexcept {
     constexpr int closeEnough = 16;
-    LargeInteger a(*this);
+    LargeInteger const* a = this;
+    std::optional<LargeInteger> divisor;
     while (!other.isZero()) {
-        if (std::abs(a.getHighestBit() - other.getHighestBit()) > closeEnough) {
-            LargeInteger const remainder = a % other;
-            a = other;
+        if (std::abs(a->getHighestBit() - other.getHighestBit()) > closeEnough) {
+            LargeInteger const remainder = *a % other;
+            divisor = other;
+            a = &*divisor;
             other = remainder;
-        } else if (a.isNegative() || other.isNegative()) {
+        } else if (a->isNegative() || other.isNegative()) {
             // Which signs come to an end, and with which sign, rests on the documented steps.
-            return simpleGCD(&a, &other);
+            LargeInteger first(*a);
+            return simpleGCD(&first, &other);
         } else {
-            return Representation::gcdOfMagnitudes(a, other);
+            return Representation::gcdOfMagnitudes(*a, other);
         }
     }
-    return LargeInteger(a);
+    Magnitude const last = Representation::magnitude(*a);
+    return Representation::copied(last.value, last.count(), last.top, a->negative);
 }
 
 /// What simpleGCD returns for two values that are not negative: a copy of the one that is not zero
@@ -99,7 +106,11 @@ LargeInteger internal::Representation::gcdOfMagnitudes(LargeInteger const& a,
                                                        LargeInteger const& b) noexcept {
     Magnitude const first = magnitude(a);
     Magnitude const second = magnitude(b);
-    std::size_t const count = limbCount(std::max({first.top, second.top, 0}));
+    std::size_t const count = std::max(first.count(), second.count());
+    if (count == 1) {
+        Limb const divisor = std::gcd(first.top < 0 ? 0 : first.value[0], second.value[0]);
+        return copied(&divisor, 1, 0, false);
+    }
     Workspace workspace(3 * count + limbs::gcdScratch(count));
     Limb* const x = workspace.take(count);
     Limb* const y = workspace.take(count);
@@ -184,58 +195,70 @@ bool internal::Representation::invert(LargeInteger& a, LargeInteger const& m) no
     return true;
 }
 
+namespace {
+
+/// a modulo m: itself where it is below m, and otherwise the remainder, which then is kept.
+Magnitude reduced(Magnitude a, Magnitude m, std::optional<Quotient>& kept) noexcept {
+    if (a.top < m.top || compareMagnitudes(a, m) < 0)
+        return a;
+    kept.emplace(a, m);
+    return {kept->remainder, static_cast<int>(topBit(kept->remainder, kept->remainderCount))};
+}
+
+}  // namespace
+
 void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) noexcept {
-    // m may be this object.
+    Magnitude const modulus = Representation::magnitude(m);
+    if (modulus.top >= 0 && !isNegative()) {
+        std::optional<Quotient> keptExponent;
+        std::optional<Quotient> keptBase;
+        Magnitude const exponent =
+            reduced(Representation::magnitude(e), modulus, keptExponent);
+        Magnitude const base = reduced(Representation::magnitude(*this), modulus, keptBase);
+        if (exponent.top >= 0 && base.top >= 0) {
+            Representation::raise(*this, base, exponent, modulus);
+            return;
+        }
+    }
+    // A base or an exponent of zero, and the signs that squaring in place gives a negative base. m
+    // may be this object.
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-    LargeInteger const modulus(m);
+    LargeInteger const divisor(m);
     LargeInteger exponent(e);
-    exponent %= modulus;
+    exponent %= divisor;
     LargeInteger base(1);
     swapWith(base);
-    base %= modulus;
-    if (!exponent.isZero() && !base.isZero() && !base.isNegative()) {
-        *this = base;
-        Representation::raise(*this, exponent, modulus);
-        return;
-    }
-    // A base of zero, and the signs that squaring in place gives a negative one.
+    base %= divisor;
     while (!exponent.isZero()) {
         if (exponent[0] != 0) {
             *this *= base;
-            *this %= modulus;
+            *this %= divisor;
         }
         base *= base;
-        base %= modulus;
+        base %= divisor;
         exponent >>= 1;
     }
 }
 
-/// Becomes its power; neither the base, which is below the modulus, nor the exponent is zero.
+/// Becomes base^exponent modulo the modulus; base and exponent are below it, and neither is zero.
 ///
 /// Bound and capacity are those of the last product before its reduction.
-void internal::Representation::raise(LargeInteger& base, LargeInteger const& exponent,
-                                     LargeInteger const& modulus) noexcept {
-    Magnitude const exponentBits = magnitude(exponent);
-    int const top = exponentBits.top;
-    Magnitude const divisor = magnitude(modulus);
-    std::size_t const count = limbCount(divisor.top);
-    std::size_t const exponentCount = limbCount(top);
-    Workspace workspace(5 * count + exponentCount + limbs::powerScratch(count, top));
-    Limb* const m = workspace.take(count);
+void internal::Representation::raise(LargeInteger& a, Magnitude base, Magnitude exponent,
+                                     Magnitude modulus) noexcept {
+    std::size_t const count = modulus.count();
+    Workspace workspace(4 * count + limbs::powerScratch(count, exponent.top));
     Limb* const b = workspace.take(count);
     Limb* const lower = workspace.take(count);
     Limb* const highest = workspace.take(count);
     Limb* const result = workspace.take(count);
-    Limb* const e = workspace.take(exponentCount);
-    loadLimbs(m, count, divisor);
-    loadLimbs(b, count, magnitude(base));
-    loadLimbs(e, exponentCount, exponentBits);
-    limbs::power(result, lower, highest, b, e, top, m, count, workspace.rest());
+    loadLimbs(b, count, base);
+    limbs::power(result, lower, highest, b, exponent.value, exponent.top, modulus.value, count,
+                 workspace.rest());
 
-    base = copied(lower, count, static_cast<int>(topBit(lower, count)), false);
-    base *= copied(highest, count, static_cast<int>(topBit(highest, count)), false);
-    if (!base.isZero())
-        replaceMagnitude(base, base.highestBit, result, count);
+    a = copied(lower, count, static_cast<int>(topBit(lower, count)), false);
+    a *= copied(highest, count, static_cast<int>(topBit(highest, count)), false);
+    if (!a.isZero())
+        replaceMagnitude(a, a.highestBit, result, count);
 }
 
 }  // namespace qel

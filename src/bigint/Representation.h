@@ -41,8 +41,8 @@ struct Representation {
 
     /// a + b or, with `subtract`, a - b.
     /// @param bBound the cached bound of b, which may tell the capacity
-    static void add(LargeInteger& a, Magnitude b, int bBound, bool bNegative,
-                    bool subtract) noexcept;
+    /// @param bFlag its sign flag
+    static void add(LargeInteger& a, Magnitude b, int bBound, bool bFlag, bool subtract) noexcept;
     [[nodiscard]] static LargeInteger sum(LargeInteger const& a, LargeInteger const& b,
                                           bool subtract) noexcept;
 
@@ -57,8 +57,8 @@ struct Representation {
     [[nodiscard]] static LargeInteger gcdOfMagnitudes(LargeInteger const& a,
                                                       LargeInteger const& b) noexcept;
     [[nodiscard]] static bool invert(LargeInteger& a, LargeInteger const& m) noexcept;
-    static void raise(LargeInteger& base, LargeInteger const& exponent,
-                      LargeInteger const& modulus) noexcept;
+    static void raise(LargeInteger& a, Magnitude base, Magnitude exponent,
+                      Magnitude modulus) noexcept;
 
     static void become(LargeInteger& a, Limb const* value, int top, int capacity) noexcept;
     template <int bits>

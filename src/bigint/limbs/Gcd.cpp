@@ -228,7 +228,14 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
     Limb* const quotient = scratch;
     Limb* const dividend = scratch + aCount + 1;
     Limb* const divisor = dividend + aCount + 1;
-    if (count == 1) {
+    // Two numbers of one length have a small quotient, which subtraction finds.
+    if (aCount == count && larger.number[count - 1] / smaller.number[count - 1] < 4) {
+        quotient[0] = 0;
+        while (compare(larger.number, smaller.number, count) >= 0) {
+            subtract(larger.number, larger.number, smaller.number, count);
+            ++quotient[0];
+        }
+    } else if (count == 1) {
         larger.number[0] = divideLimb(quotient, larger.number, aCount, smaller.number[0]);
         std::fill(larger.number + 1, larger.number + aCount, Limb{0});
     } else {

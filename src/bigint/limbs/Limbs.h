@@ -37,9 +37,19 @@ Limb subtract(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexce
 /// out = a - borrow.
 Limb subtractLimb(Limb* out, Limb const* a, std::size_t count, Limb borrow) noexcept;
 /// 1, 0 or -1.
-int compare(Limb const* a, Limb const* b, std::size_t count) noexcept;
+[[nodiscard]] inline int compare(Limb const* a, Limb const* b, std::size_t count) noexcept {
+    while (count > 0 && a[count - 1] == b[count - 1])
+        --count;
+    if (count == 0)
+        return 0;
+    return a[count - 1] > b[count - 1] ? 1 : -1;
+}
 /// The count without zero limbs on top; 0 for zero.
-std::size_t significant(Limb const* a, std::size_t count) noexcept;
+[[nodiscard]] inline std::size_t significant(Limb const* a, std::size_t count) noexcept {
+    while (count > 0 && a[count - 1] == 0)
+        --count;
+    return count;
+}
 /// The number of set bits.
 [[nodiscard]] long long countBits(Limb const* a, std::size_t count) noexcept;
 /// out = a << bits, for 0 < bits < 64; returns the bits shifted out.

@@ -30,20 +30,6 @@ Limb subtractLimb(Limb* out, Limb const* a, std::size_t count, Limb borrow) noex
     return borrow;
 }
 
-int compare(Limb const* a, Limb const* b, std::size_t count) noexcept {
-    for (std::size_t i = count; i-- > 0;) {
-        if (a[i] != b[i])
-            return a[i] > b[i] ? 1 : -1;
-    }
-    return 0;
-}
-
-std::size_t significant(Limb const* a, std::size_t count) noexcept {
-    while (count > 0 && a[count - 1] == 0)
-        --count;
-    return count;
-}
-
 // Counts in fields of 2, 4 and 8 bits side by side (Warren, Hacker's Delight, 5-1): not every
 // processor that this runs on has an instruction for it.
 long long countBits(Limb const* a, std::size_t count) noexcept {

@@ -5,6 +5,7 @@
 #include "Power.h"
 
 #include "Montgomery.h"
+#include "MontgomeryLimb.h"
 
 #include <algorithm>
 #include <array>
@@ -62,6 +63,23 @@ class DivisionContext {
     Limb* product;
     Limb* quotient;
     Limb* scratch;
+};
+
+/// Products modulo an odd number of one limb.
+class LimbContext {
+  public:
+    LimbContext(Limb const* modulus, std::size_t /*count*/, Limb* /*scratch*/) noexcept
+        : montgomery(modulus[0]) {}
+
+    void multiply(Limb* out, Limb const* a, Limb const* b) const noexcept {
+        *out = montgomery.multiply(*a, *b);
+    }
+    void square(Limb* out, Limb const* a) const noexcept { multiply(out, a, a); }
+    void enter(Limb* out, Limb const* a) const noexcept { *out = montgomery.enter(*a); }
+    void leave(Limb* out, Limb const* a) const noexcept { *out = montgomery.leave(*a); }
+
+  private:
+    MontgomeryLimb montgomery;
 };
 
 /// Windows of this many bits cost the fewest multiplications for an exponent of `bits` bits:
@@ -170,7 +188,9 @@ void powerIn(Limb* result, Limb* lower, Limb* highest, Limb const* base, Limb co
 
 void power(Limb* result, Limb* lower, Limb* highest, Limb const* base, Limb const* e, long long top,
            Limb const* modulus, std::size_t count, Limb* scratch) noexcept {
-    if (modulus[0] % 2 != 0)
+    if (modulus[0] % 2 != 0 && count == 1)
+        powerIn<LimbContext>(result, lower, highest, base, e, top, modulus, count, scratch);
+    else if (modulus[0] % 2 != 0)
         powerIn<MontgomeryContext>(result, lower, highest, base, e, top, modulus, count, scratch);
     else
         powerIn<DivisionContext>(result, lower, highest, base, e, top, modulus, count, scratch);
