@@ -1,0 +1,134 @@
+// Division and number theory. Divisors, moduli and remainders may be the object itself: all of them
+// count as they were on entry.
+#include "IntegerRows.h"
+#include "LargeIntegerFunctions.h"
+
+#include "bigint/Subtractions.h"
+
+#include <algorithm>
+
+namespace interface_test {
+
+namespace {
+
+using bigint_test::subtractions;
+using bigint_test::subtractionsAfterDivisions;
+using qel::LargeInteger;
+
+std::vector<Function> divisions() {
+    return {
+        ternary<manyOperands>(
+            "LargeInteger::divideBy(LargeInteger const&, LargeInteger&)",
+            [](auto& x, auto const& divisor, auto& remainder) { x.divideBy(divisor, remainder); }),
+        binary(
+            "LargeInteger::operator/=(LargeInteger const&)",
+            [](auto& a, auto const& b) -> auto& { return a /= b; }),
+        binary(
+            "LargeInteger::operator%=(LargeInteger const&)",
+            [](auto& a, auto const& b) -> auto& { return a %= b; }),
+        binary("LargeInteger::operator/(LargeInteger const&)",
+               [](auto const& a, auto const& b) { return a / b; }),
+        binary("LargeInteger::operator%(LargeInteger const&)",
+               [](auto const& a, auto const& b) { return a % b; }),
+    };
+}
+
+/// The model subtracts one by one.
+constexpr int mostSubtractions = 3000;
+
+/// Left out: a zero b under an a that is not zero, and opposite signs, with which the call does not
+/// return.
+bool haveSimpleDivisor(LargeInteger const& a, LargeInteger const& b) {
+    if (a.isZero() || &a == &b)
+        return true;
+    return !b.isZero() && a.isNegative() == b.isNegative()
+           && subtractions(a, b, mostSubtractions) < mostSubtractions;
+}
+
+/// Left out: a negative operand, with which the call may not return.
+bool haveDivisor(LargeInteger const& a, LargeInteger const& b) {
+    return !a.isNegative() && !b.isNegative()
+           && subtractionsAfterDivisions(a, b, mostSubtractions) < mostSubtractions;
+}
+
+/// With a zero on either side the books of the result are documented too. Otherwise its capacity is
+/// not, and what is compared is a copy.
+void findDivisors(Results& results) {
+    auto const find = [](auto const& a, auto const& b) { return a.findGreatestCommonDivisor(b); };
+    auto const copy = [](auto const& a, auto const& b) {
+        auto const divisor = a.findGreatestCommonDivisor(b);
+        return std::remove_cv_t<decltype(divisor)>(divisor);
+    };
+    auto const oneZero = [](auto const& a, auto const& b) {
+        return (a.isZero() || b.isZero()) && haveDivisor(a, b);
+    };
+    auto const noZero = [](auto const& a, auto const& b) {
+        return !a.isZero() && !b.isZero() && haveDivisor(a, b);
+    };
+    std::array<Operands const*, 2> const lists = {&manyOperands(), &manyOperands()};
+    Exercise<2, decltype(find), decltype(oneZero)>(results, lists).run();
+    Exercise<2, decltype(copy), decltype(noZero)>(results, lists).run();
+}
+
+/// Left out: a negative value, and one that has no inverse because it shares a factor with the
+/// modulus, with which the call may not return. The model adds the modulus about as often as the
+/// value says once it is reduced.
+bool haveInverse(LargeInteger const& x, LargeInteger const& m) {
+    if (m.isOne() || m.isZero() || m.isNegative())
+        return true;
+    LargeInteger const reduced = x % m;
+    if (x.isNegative())
+        return false;
+    return reduced[0] == 0
+           || (reduced < LargeInteger(1 << 12) && reduced.findGreatestCommonDivisor(m).isOne());
+}
+
+/// Besides the values that the others take, small ones, which have inverses.
+Operands const& invertibleOperands() {
+    static Operands const operands = [] {
+        Operands list = manyOperands();
+        for (char const* digits : {"3", "5", "11", "ffd", "80000003", "1000000000000001d"}) {
+            list.push_back({twinOf(digits)});
+            list.push_back({twinOf(digits), 700, 40});
+        }
+        return list;
+    }();
+    return operands;
+}
+
+void invert(Results& results) {
+    auto const inverse = [](auto& x, auto const& m) { x.inverseModulo(m); };
+    auto const condition = [](auto const& x, auto const& m) { return haveInverse(x, m); };
+    Operands const& list = invertibleOperands();
+    Exercise<2, decltype(inverse), decltype(condition)>(results, {&list, &list}).run();
+}
+
+/// The model takes a product and a quotient of this width for each bit of the exponent.
+bool isQuick(LargeInteger const& exponent, LargeInteger const& modulus) {
+    long long const width = modulus.getHighestBit() + 1;
+    long long const steps = std::min(width, exponent.getHighestBit() + 1LL);
+    return steps * width * width <= 200 * 200 * 200;
+}
+
+}  // namespace
+
+std::vector<Function> divisionFunctions() {
+    std::vector<Function> all = divisions();
+    std::vector<Function> const more = {
+        binary(
+            "LargeInteger::simpleGCD(LargeInteger*, LargeInteger*)",
+            [](auto& a, auto& b) {
+                return std::remove_reference_t<decltype(a)>::simpleGCD(&a, &b);
+            },
+            [](auto const& a, auto const& b) { return haveSimpleDivisor(a, b); }),
+        {"LargeInteger::findGreatestCommonDivisor(LargeInteger)", findDivisors},
+        {"LargeInteger::inverseModulo(LargeInteger const&)", invert},
+        ternary<fewOperands>(
+            "LargeInteger::exponentModulo(LargeInteger const&, LargeInteger const&)",
+            [](auto& x, auto const& e, auto const& m) { x.exponentModulo(e, m); },
+            [](auto const&, auto const& e, auto const& m) { return isQuick(e, m); })};
+    all.insert(all.end(), more.begin(), more.end());
+    return all;
+}
+
+}  // namespace interface_test
