@@ -129,7 +129,7 @@ class Exercise {
             return;
         std::array<Twin, places> made;
         for (std::size_t i = 0; i < objects; ++i)
-            made[i] = operands[i]->make();
+            operands[i]->assignTo(made[i]);
         std::array<Twin*, places> twins{};
         for (std::size_t i = 0; i < places; ++i)
             twins[i] = &made[sharing[i]];
@@ -161,7 +161,7 @@ class Exercise {
         std::string text = "\ncall " + name(numbers...);
         for (std::size_t i = 0; i < objects; ++i)
             text += "\nwith " + std::string(1, static_cast<char>('a' + i)) + ": "
-                    + describe(operands[i]->make());
+                    + operands[i]->description();
         return text;
     }
 

@@ -36,7 +36,8 @@ void parseEach(Results& results) {
     for (std::string const& text : texts()) {
         for (Radix const radix : extremes<Radix>()) {
             for (Operand const& operand : manyOperands()) {
-                Twin twin = operand.make();
+                Twin twin;
+                operand.assignTo(twin);
                 both(twin, [&](auto& x) { x.parseString(text, radix); });
                 std::string const fault = check(twin);
                 ASSERT_EQ(fault, "") << text << " in radix " << radix.value;

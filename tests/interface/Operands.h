@@ -19,16 +19,22 @@ struct Operand {
     /// A word that there is room for.
     int reserved = 0;
 
-    /// A new object. Copies have other books: every call has to begin with one of these.
-    [[nodiscard]] Twin make() const {
-        Twin twin{number.fast, number.plain};
+    /// In place: a copy has other books, and so has what is moved.
+    void assignTo(Twin& twin) const {
+        twin.fast = number.fast;
+        twin.plain = number.plain;
         if (above > 0) {
             int const bound = number.plain.getHighestBit() + above;
             both(twin, [bound](auto& x) { x.setBit(bound), x.clearBit(bound); });
         }
         if (reserved > 0)
             both(twin, [this](auto& x) { x.ensureSize(reserved); });
-        return twin;
+    }
+
+    [[nodiscard]] std::string description() const {
+        Twin twin;
+        assignTo(twin);
+        return describe(twin);
     }
 };
 

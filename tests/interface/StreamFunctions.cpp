@@ -42,7 +42,8 @@ std::string written(Value const& value, std::ios_base::fmtflags flags, int width
 
 /// Left out: widths of 2^31, which write as many bytes.
 void write(Results& results, Operand const& operand, Base const& base) {
-    Twin const twin = operand.make();
+    Twin twin;
+    operand.assignTo(twin);
     std::string const digits = twin.plain.toString(base.radix);
     for (int const width : extremeInts) {
         for (std::ios_base::fmtflags const flags : otherFlags) {
@@ -50,7 +51,7 @@ void write(Results& results, Operand const& operand, Base const& base) {
                 continue;
             std::string const text = written(twin.fast, base.flags | flags, width);
             ASSERT_EQ(text, written(digits.empty() ? "0" : digits, flags, width))
-                << describe(operand.make()) << " in width " << width;
+                << operand.description() << " in width " << width;
         }
         if (width <= 33)
             results.add("", base.radix, width, written(twin.fast, base.flags, width));
