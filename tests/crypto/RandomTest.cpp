@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <csignal>
 #include <cstdint>
 #include <cstdlib>
 #include <random>
@@ -138,6 +139,14 @@ TEST(Random, BitsOutsideTheRangeStay) {
         for (int i = 137; i < 300; ++i)
             EXPECT_EQ(v[i], fill) << i;
     }
+}
+
+TEST(Random, AFillAboveTheHighestPositionEndsTheProcess) {
+    LargeInteger v;
+    EXPECT_EXIT(Random(3).fillBitsRandomly(v, INT_MAX, 2), testing::KilledBySignal(SIGABRT),
+                "wider than an int can index");
+    EXPECT_EXIT(Random(3).fillBitsRandomly(v, INT_MAX, INT_MAX), testing::KilledBySignal(SIGABRT),
+                "wider than an int can index");
 }
 
 TEST(Random, AFillOfNoBitsDrawsNothingButMaySetTheBitBelow) {

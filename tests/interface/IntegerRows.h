@@ -175,21 +175,26 @@ class Exercise {
 
 using OperandList = Operands const& (*)();
 
-/// A function of one integer and some numbers; three numbers meet few integers.
-template <typename... Numbers, typename Operation, typename Condition = Always>
-Function unary(char const* name, Operation /*operation*/, Condition /*condition*/ = {}) {
+/// A function of one integer and some numbers.
+template <OperandList list, typename... Numbers, typename Operation, typename Condition = Always>
+Function unaryOf(char const* name, Operation /*operation*/, Condition /*condition*/ = {}) {
     return {name, [](Results& results) {
-                Operands const& list = sizeof...(Numbers) < 3 ? manyOperands() : fewOperands();
-                Exercise<1, Operation, Condition, Numbers...>(results, {&list}).run();
+                Exercise<1, Operation, Condition, Numbers...>(results, {&list()}).run();
             }};
 }
 
+/// Three numbers meet few integers.
+template <typename... Numbers, typename Operation, typename Condition = Always>
+Function unary(char const* name, Operation operation, Condition condition = {}) {
+    constexpr OperandList list = sizeof...(Numbers) < 3 ? manyOperands : fewOperands;
+    return unaryOf<list, Numbers...>(name, operation, condition);
+}
+
 /// A function of two integers.
-template <typename Operation, typename Condition = Always>
+template <OperandList list = manyOperands, typename Operation, typename Condition = Always>
 Function binary(char const* name, Operation /*operation*/, Condition /*condition*/ = {}) {
     return {name, [](Results& results) {
-                Operands const& list = manyOperands();
-                Exercise<2, Operation, Condition>(results, {&list, &list}).run();
+                Exercise<2, Operation, Condition>(results, {&list(), &list()}).run();
             }};
 }
 

@@ -86,6 +86,18 @@ void apply(Results& results) {
 
 // --- creation -----------------------------------------------------------------------------------
 
+/// With and without factors from the list of exponents.
+Operands const& orders() {
+    static Operands const operands = [] {
+        Operands list = fewOperands();
+        for (char const* digits : {"2", "a", "c", "ff", "80000000", "ffff0001"})
+            list.push_back({twinOf(digits), 700});
+        list.push_back({twinOf(patternOf(700)), 0, 40});
+        return list;
+    }();
+    return operands;
+}
+
 LargeInteger bestDivisor(LargeInteger const& first, LargeInteger const& second) {
     return RSAKey::findBestCommonDivisor(first, second);
 }
@@ -140,7 +152,7 @@ std::vector<Function> keyFunctions() {
         {"RSAKey::applyToValue(LargeInteger&)", apply},
         // Left out: zero, with which nothing is coprime, and negative values, with which the call
         // may not return.
-        binary(
+        binary<orders>(
             "RSAKey::findBestCommonDivisor(LargeInteger const&, LargeInteger const&)",
             [](auto const& first, auto const& second) { return bestDivisor(first, second); },
             [](auto const& first, auto const& second) {

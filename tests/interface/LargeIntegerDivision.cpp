@@ -96,13 +96,6 @@ Operands const& invertibleOperands() {
     return operands;
 }
 
-void invert(Results& results) {
-    auto const inverse = [](auto& x, auto const& m) { x.inverseModulo(m); };
-    auto const condition = [](auto const& x, auto const& m) { return haveInverse(x, m); };
-    Operands const& list = invertibleOperands();
-    Exercise<2, decltype(inverse), decltype(condition)>(results, {&list, &list}).run();
-}
-
 /// The model takes a product and a quotient of this width for each bit of the exponent.
 bool isQuick(LargeInteger const& exponent, LargeInteger const& modulus) {
     long long const width = modulus.getHighestBit() + 1;
@@ -122,7 +115,10 @@ std::vector<Function> divisionFunctions() {
             },
             [](auto const& a, auto const& b) { return haveSimpleDivisor(a, b); }),
         {"LargeInteger::findGreatestCommonDivisor(LargeInteger)", findDivisors},
-        {"LargeInteger::inverseModulo(LargeInteger const&)", invert},
+        binary<invertibleOperands>(
+            "LargeInteger::inverseModulo(LargeInteger const&)",
+            [](auto& x, auto const& m) { x.inverseModulo(m); },
+            [](auto const& x, auto const& m) { return haveInverse(x, m); }),
         ternary<fewOperands>(
             "LargeInteger::exponentModulo(LargeInteger const&, LargeInteger const&)",
             [](auto& x, auto const& e, auto const& m) { x.exponentModulo(e, m); },

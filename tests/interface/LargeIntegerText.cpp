@@ -35,7 +35,7 @@ std::vector<std::string> const& texts() {
 void parseEach(Results& results) {
     for (std::string const& text : texts()) {
         for (Radix const radix : extremes<Radix>()) {
-            for (Operand const& operand : manyOperands()) {
+            for (Operand const& operand : fewOperands()) {
                 Twin twin;
                 operand.assignTo(twin);
                 both(twin, [&](auto& x) { x.parseString(text, radix); });

@@ -41,17 +41,13 @@ Operands const& candidates() {
     return operands;
 }
 
-void judge(Results& results) {
-    auto const judged = [](auto const& n, int witnessCount) { return verdict(n, witnessCount); };
-    // Left out: a negative number from -2048 down, with which the call may not return; and more
-    // than 33 witnesses of a prime, which a count of 2^31 keeps busy for hours. (Below 2^16 it ends
-    // when the prime is its own witness.)
-    auto const condition = [](LargeInteger const& n, int witnessCount) {
-        if (n.isNegative() && n.getHighestBit() >= 11)
-            return false;
-        return witnessCount <= 33 || n.getHighestBit() < 12 || !plain::isProbablyPrime(n, 33);
-    };
-    Exercise<1, decltype(judged), decltype(condition), int>(results, {&candidates()}).run();
+/// Left out: a negative number from -2048 down, with which the call may not return; and more than
+/// 33 witnesses of a prime, which a count of 2^31 keeps busy for hours. (Below 2^12 it ends when
+/// the prime is its own witness.)
+bool isQuick(LargeInteger const& n, int witnessCount) {
+    if (n.isNegative() && n.getHighestBit() >= 11)
+        return false;
+    return witnessCount <= 33 || n.getHighestBit() < 12 || !plain::isProbablyPrime(n, 33);
 }
 
 void searchFor(Results& results, int bitCount, int witnessCount, Seeds const& seeds) {
@@ -87,7 +83,10 @@ void search(Results& results) {
 
 std::vector<Function> primeFunctions() {
     return {
-        {"PrimesNumber::isProbablyPrime(LargeInteger const&, int)", judge},
+        unaryOf<candidates, int>(
+            "PrimesNumber::isProbablyPrime(LargeInteger const&, int)",
+            [](auto const& n, int witnessCount) { return verdict(n, witnessCount); },
+            [](auto const& n, int witnessCount) { return isQuick(n, witnessCount); }),
         {"PrimesNumber::createProbablePrime(int, int, int const*, int)", search},
     };
 }

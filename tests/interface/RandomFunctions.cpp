@@ -45,7 +45,7 @@ std::vector<Function> randomFunctions() {
         sequence("Random::nextBool()", [](auto& r) { return r.nextBool(); }),
         // Left out: bits far above the operands, which take up to 256 MB, and counts of 2^31, which
         // take minutes, be it below bit 0.
-        unary<int, int>(
+        unaryOf<fewOperands, int, int>(
             "Random::fillBitsRandomly(LargeInteger&, int, int)",
             [](auto& value, int firstBit, int bitCount) {
                 auto random = generatorFor(value);
