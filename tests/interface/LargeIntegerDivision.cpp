@@ -51,25 +51,6 @@ bool haveDivisor(LargeInteger const& a, LargeInteger const& b) {
            && subtractionsAfterDivisions(a, b, mostSubtractions) < mostSubtractions;
 }
 
-/// With a zero on either side the books of the result are documented too. Otherwise its capacity is
-/// not, and what is compared is a copy.
-void findDivisors(Results& results) {
-    auto const find = [](auto const& a, auto const& b) { return a.findGreatestCommonDivisor(b); };
-    auto const copy = [](auto const& a, auto const& b) {
-        auto const divisor = a.findGreatestCommonDivisor(b);
-        return std::remove_cv_t<decltype(divisor)>(divisor);
-    };
-    auto const oneZero = [](auto const& a, auto const& b) {
-        return (a.isZero() || b.isZero()) && haveDivisor(a, b);
-    };
-    auto const noZero = [](auto const& a, auto const& b) {
-        return !a.isZero() && !b.isZero() && haveDivisor(a, b);
-    };
-    std::array<Operands const*, 2> const lists = {&manyOperands(), &manyOperands()};
-    Exercise<2, decltype(find), decltype(oneZero)>(results, lists).run();
-    Exercise<2, decltype(copy), decltype(noZero)>(results, lists).run();
-}
-
 /// Left out: a negative value, and one that has no inverse because it shares a factor with the
 /// modulus, with which the call may not return. The model adds the modulus about as often as the
 /// value says once it is reduced.
@@ -114,7 +95,10 @@ std::vector<Function> divisionFunctions() {
                 return std::remove_reference_t<decltype(a)>::simpleGCD(&a, &b);
             },
             [](auto const& a, auto const& b) { return haveSimpleDivisor(a, b); }),
-        {"LargeInteger::findGreatestCommonDivisor(LargeInteger)", findDivisors},
+        binary(
+            "LargeInteger::findGreatestCommonDivisor(LargeInteger)",
+            [](auto const& a, auto const& b) { return a.findGreatestCommonDivisor(b); },
+            [](auto const& a, auto const& b) { return haveDivisor(a, b); }),
         binary<invertibleOperands>(
             "LargeInteger::inverseModulo(LargeInteger const&)",
             [](auto& x, auto const& m) { x.inverseModulo(m); },
