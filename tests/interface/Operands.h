@@ -98,6 +98,7 @@ inline Operands const& fewOperands() {
                                       {twinOf("1")},
                                       {twinOf("ffffffff"), 100},
                                       {twinOf("ffffffffffffffff"), 0, 40},
+                                      {twinOf("10000000000000000"), 100},
                                       {twinOf("-80000000000000000000000000000000")},
                                       {twinOf(patternOf(200))},
                                       {twinOf('-' + patternOf(1300)), 100}};
