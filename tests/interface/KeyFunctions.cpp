@@ -60,7 +60,8 @@ Function comparison(char const* name, Compare /*compare*/) {
 
 // --- application --------------------------------------------------------------------------------
 
-/// Left out: a negative modulus, and too many digits for the model's time.
+/// Left out: a negative modulus, of which nothing is documented, and too many digits for the
+/// model's time.
 bool isApplicable(plain::Key const& key, LargeInteger const& value) {
     return key.exponent.isZero() || key.modulus.isZero()
            || (!key.modulus.isNegative()
@@ -151,7 +152,7 @@ std::vector<Function> keyFunctions() {
                    [](auto const& a, auto const& b) { return a != b; }),
         {"RSAKey::applyToValue(LargeInteger&)", apply},
         // Left out: zero, with which nothing is coprime, and negative values, with which the call
-        // may not return.
+        // can run for ever.
         binary<orders>(
             "RSAKey::findBestCommonDivisor(LargeInteger const&, LargeInteger const&)",
             [](auto const& first, auto const& second) { return bestDivisor(first, second); },

@@ -36,8 +36,8 @@ std::vector<Function> divisions() {
 /// The model subtracts one by one.
 constexpr int mostSubtractions = 3000;
 
-/// Left out: a zero b under an a that is not zero, and opposite signs, with which the call does not
-/// return.
+/// Left out: a zero b under an a that is not zero, and opposite signs, with which the call runs
+/// for ever.
 bool haveSimpleDivisor(LargeInteger const& a, LargeInteger const& b) {
     if (a.isZero() || &a == &b)
         return true;
@@ -45,14 +45,14 @@ bool haveSimpleDivisor(LargeInteger const& a, LargeInteger const& b) {
            && subtractions(a, b, mostSubtractions) < mostSubtractions;
 }
 
-/// Left out: a negative operand, with which the call may not return.
+/// Left out: a negative operand, with which the call can run for ever.
 bool haveDivisor(LargeInteger const& a, LargeInteger const& b) {
     return !a.isNegative() && !b.isNegative()
            && subtractionsAfterDivisions(a, b, mostSubtractions) < mostSubtractions;
 }
 
 /// Left out: a negative value, and one that has no inverse because it shares a factor with the
-/// modulus, with which the call may not return. The model adds the modulus about as often as the
+/// modulus, with which the call can run for ever. The model adds the modulus about as often as the
 /// value says once it is reduced.
 bool haveInverse(LargeInteger const& x, LargeInteger const& m) {
     if (m.isOne() || m.isZero() || m.isNegative())

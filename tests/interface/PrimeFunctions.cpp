@@ -41,7 +41,7 @@ Operands const& candidates() {
     return operands;
 }
 
-/// Left out: a negative number from -2048 down, with which the call may not return; and more than
+/// Left out: a negative number from -2048 down, with which the call can run for ever; and more than
 /// 33 witnesses of a prime, which a count of 2^31 keeps busy for hours. (Below 2^12 it ends when
 /// the prime is its own witness.)
 bool isQuick(LargeInteger const& n, int witnessCount) {
