@@ -212,8 +212,7 @@ void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) 
     if (modulus.top >= 0 && !isNegative()) {
         std::optional<Quotient> keptExponent;
         std::optional<Quotient> keptBase;
-        Magnitude const exponent =
-            reduced(Representation::magnitude(e), modulus, keptExponent);
+        Magnitude const exponent = reduced(Representation::magnitude(e), modulus, keptExponent);
         Magnitude const base = reduced(Representation::magnitude(*this), modulus, keptBase);
         if (exponent.top >= 0 && base.top >= 0) {
             Representation::raise(*this, base, exponent, modulus);

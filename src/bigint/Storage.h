@@ -121,7 +121,7 @@ class Workspace {
     std::array<Limb, 640> local;
     Limb* memory;
     Limb* next;
-    Limb* end;
+    [[maybe_unused]] Limb* end;  // for the assert
 };
 
 }  // namespace qel::internal

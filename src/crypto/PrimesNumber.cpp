@@ -3,6 +3,7 @@
 #include "qel/PrimesNumber.h"
 
 #include "../bigint/Representation.h"
+#include "Screening.h"
 #include "Witnesses.h"
 
 namespace qel {
@@ -28,6 +29,17 @@ bool passesTrialDivision(int value) noexcept {
     return true;
 }
 
+/// Whether a small factor tells what the test would say: one up to 23, as documented, or a larger
+/// one that refuses a witness. Looking at the factor r takes the same time for each, and spares one
+/// test in r. The limit is measured.
+bool isStruck(limbs::Limb* n, std::size_t count, int witnessCount, limbs::Limb* scratch) noexcept {
+    constexpr limbs::Limb limitPerLimb = 256;
+    n[0] -= 1;
+    Screening screening(n, count, witnessCount, limitPerLimb * count, scratch);
+    n[0] += 1;
+    return screening.window(1)[0];
+}
+
 }  // namespace
 
 bool PrimesNumber::isProbablyPrime(LargeInteger const& n, int witnessCount) noexcept {
@@ -36,14 +48,16 @@ bool PrimesNumber::isProbablyPrime(LargeInteger const& n, int witnessCount) noex
     if (n.getHighestBit() <= smallHighestBit)
         return passesTrialDivision(n.getBitRangeAsInt(0, smallBits));
     // A negative number gets no further: the signed steps give it no divisor of 1.
-    if (!n.findGreatestCommonDivisor(LargeInteger(smallPrimesProduct)).isOne())
+    if (n.isNegative() && !n.findGreatestCommonDivisor(LargeInteger(smallPrimesProduct)).isOne())
         return false;
 
     Magnitude const magnitude = Representation::magnitude(n);
     std::size_t const count = magnitude.count();
-    Workspace workspace(count + witnessScratch(count));
+    Workspace workspace(count + screeningScratch(count) + witnessScratch(count));
     limbs::Limb* const number = workspace.take(count);
     loadLimbs(number, count, magnitude);
+    if (isStruck(number, count, witnessCount, workspace.take(screeningScratch(count))))
+        return false;
     limbs::Limb const* const numbers[] = {number};
     return indexOfPassing(numbers, count, witnessCount, workspace.rest()) == 0;
 }

@@ -53,14 +53,19 @@ bool testsEight(std::size_t count) noexcept {
     return limbs::laneKernels().pays && count >= fewestLimbs && count <= limbs::longestStrongTest;
 }
 
-bool passesOneByOne(Limb const* n, std::size_t count, OddPrimes witnesses, int witnessCount,
-                    Limb* scratch) noexcept {
-    limbs::StrongTest test(n, limbs::significant(n, count), scratch);
+template <typename Test>
+bool passesAll(Test test, OddPrimes witnesses, int witnessCount) noexcept {
     for (; witnessCount > 0; --witnessCount) {
         if (!test.passes(witnesses.next()))
             return false;
     }
     return true;
+}
+
+bool passesOneByOne(Limb const* n, std::size_t count, int witnessCount, Limb* scratch) noexcept {
+    count = limbs::significant(n, count);
+    return count == 1 ? passesAll(limbs::StrongLimbTest(n[0]), {}, witnessCount)
+                      : passesAll(limbs::StrongTest(n, count, scratch), {}, witnessCount);
 }
 
 /// Lanes left over repeat the last witness.
@@ -114,7 +119,7 @@ int indexOfPassing(std::span<Limb const* const> numbers, std::size_t count, int 
         return indexByEight(numbers, count, witnessCount, scratch);
     for (std::size_t k = 0; k < numbers.size(); ++k) {
         if (byEight ? passesByEight(numbers[k], count, {}, witnessCount, scratch)
-                    : passesOneByOne(numbers[k], count, {}, witnessCount, scratch))
+                    : passesOneByOne(numbers[k], count, witnessCount, scratch))
             return static_cast<int>(k);
     }
     return -1;

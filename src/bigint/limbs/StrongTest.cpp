@@ -93,6 +93,24 @@ bool StrongTest::passes(Limb witness) noexcept {
     return false;
 }
 
+bool StrongLimbTest::passes(Limb witness) const noexcept {
+    Limb const base = montgomery.enter(witness);
+    Limb power = base;
+    for (int i = std::bit_width(oddPart) - 1; i-- > 0;) {
+        power = montgomery.multiply(power, power);
+        if ((oddPart >> i & 1) != 0)
+            power = montgomery.multiply(power, base);
+    }
+    if (power == montgomery.unit() || power == montgomery.minusUnit())
+        return true;
+    for (int j = 1; j < twos; ++j) {
+        power = montgomery.multiply(power, power);
+        if (power == montgomery.minusUnit())
+            return true;
+    }
+    return false;
+}
+
 void StrongTest::raiseToOddPart(Limb witness) noexcept {
     DigitPowers const powers(witness);
     long long const bits = static_cast<long long>(count) * bitsPerLimb - shift;
@@ -115,10 +133,6 @@ void StrongTest::raiseToOddPart(Limb witness) noexcept {
 /// product, rounded down. So it is never too high; and it is at most 5 too low, since those bits,
 /// u and d, have u / d - u / (d + 1) < 2^128 / 2^126.
 void StrongTest::multiplyLimb(Limb factor) noexcept {
-    if (count == 1) {
-        power[0] = static_cast<Limb>(DoubleLimb{power[0]} * factor % n[0]);
-        return;
-    }
     Limb const top = limbs::multiplyLimb(power, power, count, factor);
     DoubleLimb const leading = (DoubleLimb{shiftedUp(top, power[count - 1], shift)} << bitsPerLimb)
                                | shiftedUp(power[count - 1], power[count - 2], shift);

@@ -1,14 +1,16 @@
 // Strong probable primes (Rabin, "Probabilistic algorithm for testing primality", 1980).
 #pragma once
 
-#include "Montgomery.h"
+#include "MontgomeryLimb.h"
+
+#include <bit>
 
 namespace qel::limbs {
 
 /// The strong test of one odd number, with as many witnesses as wanted.
 class StrongTest {
   public:
-    /// @param n odd and above 1, `limbCount` limbs, the highest not zero
+    /// @param n odd, `limbCount` >= 2 limbs, the highest not zero
     /// @param scratch strongTestScratch(limbCount) limbs, which the test keeps
     StrongTest(Limb const* n, std::size_t limbCount, Limb* scratch) noexcept;
 
@@ -30,6 +32,21 @@ class StrongTest {
     Limb* complement;
     Limb* power;
     MontgomeryContext context;
+};
+
+/// The same for a number of one limb, in registers.
+class StrongLimbTest {
+  public:
+    /// @param n odd and above 1
+    explicit StrongLimbTest(Limb n) noexcept
+        : montgomery(n), twos(std::countr_zero(n - 1)), oddPart((n - 1) >> twos) {}
+
+    [[nodiscard]] bool passes(Limb witness) const noexcept;
+
+  private:
+    MontgomeryLimb montgomery;
+    int twos;
+    Limb oddPart;
 };
 
 std::size_t strongTestScratch(std::size_t count) noexcept;
