@@ -49,18 +49,21 @@ void subtractMagnitudes(Limb* out, Magnitude a, Magnitude b) noexcept {
 // object is negative, otherwise one sized by b's cached bound.
 void internal::Representation::add(LargeInteger& a, Magnitude b, int bBound, bool bFlag,
                                    bool subtract) noexcept {
-    Magnitude const old = magnitude(a);
-    bool const aNegative = a.negative && old.top >= 0;
+    bool const aNegative = a.isNegative();
     bool const bNegative = bFlag && b.top >= 0;
     if (bNegative)
         bBound = b.top;
     if (aNegative == (bNegative != subtract)) {
-        long long const bound = std::max(a.highestBit, bBound) + 1LL;
+        int const oldBound = a.highestBit;
+        long long const bound = std::max(oldBound, bBound) + 1LL;
         bool const toItself = b.value == a.data;
-        a.ensureSize(wordIndex(bound) + 1);
-        addMagnitudes(a.data, {a.data, old.top}, toItself ? Magnitude{a.data, b.top} : b);
-        refreshHighestBit(a, std::max(old.top, b.top) + 1LL);  // a negative zero keeps its flag
-    } else if (compareMagnitudes(old, b) >= 0) {
+        reserve(a, wordIndex(bound) + 1);
+        addMagnitudes(a.data, {a.data, oldBound}, toItself ? Magnitude{a.data, b.top} : b);
+        refreshHighestBit(a, bound);  // a negative zero keeps its flag
+        return;
+    }
+    Magnitude const old = magnitude(a);
+    if (compareMagnitudes(old, b) >= 0) {
         subtractMagnitudes(a.data, old, b);
         if (aNegative)
             a.negative = !a.isZero();
@@ -138,7 +141,9 @@ LargeInteger LargeInteger::operator*(LargeInteger const& b) const noexcept {
     std::size_t const count = productLimbs(left, right);
     Limb* const out = Representation::resultBuffer(count);
     multiply(out, left, right);
-    return Representation::tight(out, count, isNegative() != b.isNegative());
+    bool const leftNegative = negative && left.top >= 0;
+    bool const rightNegative = b.negative && right.top >= 0;
+    return Representation::tight(out, count, leftNegative != rightNegative);
 }
 
 LargeInteger LargeInteger::operator-() const noexcept {

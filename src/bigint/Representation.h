@@ -32,6 +32,11 @@ struct Representation {
     static void refreshHighestBit(LargeInteger& a, long long bound) noexcept {
         a.highestBit = checkedPosition(topBit(a.data, limbIndex(bound + 1) + 1));
     }
+    /// As ensureSize.
+    static void reserve(LargeInteger& a, int w) noexcept {
+        if (w >= a.size - 2)
+            a.ensureSize(w);
+    }
     /// Replaces the magnitude, whose top is `oldTop`, by `count` limbs of one that is no longer;
     /// capacity, cached bound and flag stay.
     static void replaceMagnitude(LargeInteger& a, int oldTop, Limb const* value,
