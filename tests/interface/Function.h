@@ -9,6 +9,7 @@
 
 #include "Results.h"
 
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -36,6 +37,11 @@ struct Function {
     /// The documented dependences: in every other state the results stay as they are.
     std::set<State> follows = {};
 };
+
+/// GoogleTest finds this one by its name.
+inline void PrintTo(Function const& function, std::ostream* out) {
+    *out << function.name;
+}
 
 [[nodiscard]] std::vector<Function> charFunctions();
 [[nodiscard]] std::vector<Function> dateFunctions();

@@ -1,0 +1,141 @@
+// Text from numbers. The model is the C library's printf, in the same locale and rounding mode.
+#include "Arguments.h"
+#include "CharFunctions.h"
+#include "Expectations.h"
+
+#include "qel/CharFunctions.h"
+
+#include <cstdio>
+
+namespace interface_test {
+
+namespace {
+
+using qel::CharFunctions;
+
+/// The last has a width that no int holds: the C library refuses it.
+constexpr std::array<char const*, 10> formats = {
+    "%f", "%.2f", "%.0f", "%g", "%.17g", "%e", "%a", "[%+012.3f]", "%.400f", "%2147483648f"};
+
+/// "" for what is refused.
+template <typename Number>
+std::string printed(char const* format, Number v) {
+    std::vector<char> text(2000);
+    int const length = std::snprintf(text.data(), text.size(), format, v);
+    return length < 0 ? "" : text.data();
+}
+
+/// Everything that the function wrote, and one byte more.
+template <typename Number, typename... Format>
+std::string writtenBy(void (*write)(Number, char*, Format...), std::size_t room, Number v,
+                      Format... format) {
+    std::vector<char> out(room + 1, '.');
+    write(v, out.data(), format...);
+    EXPECT_EQ(out[room], '.') << "written beyond the documented room";
+    return out.data();
+}
+
+template <typename Numbers, typename Call>
+void forEachFormat(Results& results, Numbers const& numbers, Call call) {
+    for (auto const v : numbers) {
+        for (char const* const format : formats)
+            expectResult(results, call(v, format), printed(format, v), v, format);
+    }
+}
+
+std::vector<Function> functionsOfIntegers() {
+    return {
+        {"CharFunctions::Int2String(int)",
+         [](Results& results) {
+             for (int const v : extremeInts)
+                 expectResult(results, CharFunctions::Int2String(v), printed("%d", v), v);
+         }},
+        {"CharFunctions::Int2Char(int, char*)",
+         [](Results& results) {
+             for (int const v : extremeInts)
+                 expectResult(results, writtenBy(&CharFunctions::Int2Char, 12, v), printed("%d", v),
+                              v);
+         }},
+        {"CharFunctions::UnsignedInt2String(unsigned int)",
+         [](Results& results) {
+             for (unsigned int const v : extremeUnsigned)
+                 expectResult(results, CharFunctions::UnsignedInt2String(v),
+                              printed("%d", static_cast<int>(v)), v);
+         }},
+        {"CharFunctions::UnsignedInt2Char(unsigned int, char*)",
+         [](Results& results) {
+             for (unsigned int const v : extremeUnsigned)
+                 expectResult(results, writtenBy(&CharFunctions::UnsignedInt2Char, 12, v),
+                              printed("%d", static_cast<int>(v)), v);
+         }},
+        {"CharFunctions::Long2String(long)",
+         [](Results& results) {
+             for (long const v : extremesOf<long>)
+                 expectResult(results, CharFunctions::Long2String(v), printed("%ld", v), v);
+         }},
+        {"CharFunctions::Long2Char(long, char*)",
+         [](Results& results) {
+             for (long const v : extremesOf<long>)
+                 expectResult(results, writtenBy(&CharFunctions::Long2Char, 21, v),
+                              printed("%ld", v), v);
+         }},
+        {"CharFunctions::Int2Hexa(int, bool)",
+         [](Results& results) {
+             for (int const v : extremeInts) {
+                 expectResult(results, CharFunctions::Int2Hexa(v, false), printed("%x", v), v);
+                 expectResult(results, CharFunctions::Int2Hexa(v, true), printed("%X", v), v);
+             }
+         }},
+    };
+}
+
+std::string writtenWithFormat(double v, char const* format) {
+    return writtenBy<double, char const*>(&CharFunctions::Float2Char, printed(format, v).size() + 1,
+                                          v, format);
+}
+
+std::string writtenWithFormat(float v, char const* format) {
+    return writtenBy<float, char const*>(&CharFunctions::Float2Char, printed(format, v).size() + 1,
+                                         v, format);
+}
+
+}  // namespace
+
+std::vector<Function> numberWritingFunctions() {
+    std::set<State> const followed = {State::cLocale, State::roundingMode};
+    std::vector<Function> all = functionsOfIntegers();
+    std::vector<Function> const ofFloatingPoint = {
+        {"CharFunctions::Float2String(double, char const*)",
+         [](Results& results) {
+             forEachFormat(results, extremeDoubles, [](double v, char const* format) {
+                 return CharFunctions::Float2String(v, format);
+             });
+         },
+         followed},
+        {"CharFunctions::Float2Char(double, char*, char const*)",
+         [](Results& results) {
+             forEachFormat(results, extremeDoubles, [](double v, char const* format) {
+                 return writtenWithFormat(v, format);
+             });
+         },
+         followed},
+        {"CharFunctions::Float2String(float, char const*)",
+         [](Results& results) {
+             forEachFormat(results, extremeFloats, [](float v, char const* format) {
+                 return CharFunctions::Float2String(v, format);
+             });
+         },
+         followed},
+        {"CharFunctions::Float2Char(float, char*, char const*)",
+         [](Results& results) {
+             forEachFormat(results, extremeFloats, [](float v, char const* format) {
+                 return writtenWithFormat(v, format);
+             });
+         },
+         followed},
+    };
+    all.insert(all.end(), ofFloatingPoint.begin(), ofFloatingPoint.end());
+    return all;
+}
+
+}  // namespace interface_test
