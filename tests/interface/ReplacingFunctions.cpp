@@ -17,7 +17,7 @@ using qel::CharFunctions;
 char const* const none = nullptr;
 
 /// No text of the table takes as many steps, unless it goes on for ever.
-constexpr std::size_t longestReplacement = 6000;
+constexpr std::size_t longestReplacement = 1200;
 
 template <typename Call, typename Model>
 void forEachThree(Results& results, Call call, Model model) {
