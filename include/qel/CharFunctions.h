@@ -100,7 +100,8 @@ class CharFunctions {
     [[nodiscard]] static int Compare(char const* a, char const* b) noexcept;
     /// Compares at most the first `n` bytes; -1 when either is null, also when both are.
     [[nodiscard]] static int Compare(char const* a, char const* b, unsigned int n) noexcept;
-    /// Compares with ASCII case folded; -1 when either is null, also when both are.
+    /// Compares with `A` to `Z` taken as `a` to `z`, whatever the locale; -1 when either is null,
+    /// also when both are.
     [[nodiscard]] static int CompareIgnoreCase(char const* a, char const* b) noexcept;
     /// True when both hold the same bytes. Neither may be null.
     [[nodiscard]] static bool AreEqual(char const* a, char const* b) noexcept;
@@ -109,7 +110,8 @@ class CharFunctions {
 
     /// @}
     /// @name Raw copies
-    /// The caller guarantees room in `destination`; no pointer may be null.
+    /// The caller guarantees room in `destination`; no pointer may be null. The two may overlap:
+    /// `source` counts as it was before the call.
     /// @{
 
     /// Copies `source` with its terminator.

@@ -8,6 +8,10 @@
 
 namespace qel {
 
+namespace internal {
+struct Representation;  // of the library's own sources
+}
+
 /// A signed integer of any width, with bit access and number theory.
 ///
 /// A value type: each object owns its buffer, a copy is a deep one. The representation is a
@@ -221,7 +225,9 @@ class LargeInteger {
 
     /// Becomes the quotient and stores the remainder, whose old value does not matter; both zero
     /// for a divisor of zero.
-    /// @pre `remainder` is not this object. It may be `divisor`, whose old value divides.
+    ///
+    /// `remainder` may be `divisor`, whose old value divides. Where it is this object, neither
+    /// result is kept: the object becomes zero, with the sign flag that the dividend had.
     void divideBy(LargeInteger const& divisor, LargeInteger& remainder) noexcept;
     /// Becomes the quotient, rounded toward zero; zero for a divisor of zero.
     LargeInteger& operator/=(LargeInteger const& divisor) noexcept;
@@ -279,27 +285,11 @@ class LargeInteger {
     /// @}
 
   private:
+    friend struct internal::Representation;
     friend struct LargeIntegerPeer;
 
-    LargeInteger(std::uint64_t const* limbs, int top, bool flag) noexcept;
-    void overwrite(int oldTop, std::uint64_t const* value, int top) noexcept;
-    void subtractWhileLarger(LargeInteger const& b) noexcept;
-    LargeInteger gcdOfMagnitudes(LargeInteger const& other) const noexcept;
-    bool invert(LargeInteger const& m) noexcept;
-    void raise(LargeInteger const& exponent, LargeInteger const& modulus) noexcept;
-
-    void refreshHighestBit(long long bound) noexcept;
-    void addMagnitude(LargeInteger const& b) noexcept;
-    void subtractMagnitude(LargeInteger const& b) noexcept;
-    void shiftBy(long long distance, int from) noexcept;
-    void shiftLeft(long long count) noexcept;
-    void shiftRight(long long count) noexcept;
-    void shiftLeftFrom(int from, long long count) noexcept;
-    void shiftRightFrom(int from, long long count) noexcept;
-    template <int bits>
-    void parseBits(char const* text) noexcept;
-    void parseDecimal(char const* text) noexcept;
-    void become(std::uint64_t const* limbs, int top, int capacity) noexcept;
+    LargeInteger(std::uint32_t* words, int capacity, int bound, bool flag) noexcept
+        : data(words), size(capacity), highestBit(bound), negative(flag) {}
 
     /// The magnitude, least significant word first: `size` + 1 words, the last one a guard.
     std::uint32_t* data;

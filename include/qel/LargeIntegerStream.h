@@ -22,7 +22,7 @@ inline std::ostream& operator<<(std::ostream& out, LargeInteger const& value) {
     std::ios_base::fmtflags const base = out.flags() & std::ios_base::basefield;
     int const radix = base == std::ios_base::hex ? 16 : base == std::ios_base::oct ? 8 : 10;
     std::string const digits = value.toString(radix);
-    return out << (digits.empty() ? "0" : digits);
+    return digits.empty() ? out << '0' : out << digits;
 }
 
 }  // namespace qel

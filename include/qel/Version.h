@@ -16,8 +16,8 @@ namespace qel {
 /// One line without an end: "qel version 1.4.0, build " and the day of the library's build in the
 /// form of `__DATE__`, as "Nov 21 2012".
 ///
-/// Every call builds the text anew: the pointer is good until the next call or the end of the
-/// program, and calls are to be made from one thread at a time. The library keeps the memory.
+/// The library keeps the memory: the pointer is good until the end of the program. The first call
+/// builds the text, so the calls are to be made from one thread at a time.
 [[nodiscard]] char const* GetVersion() noexcept;
 
 }  // namespace qel

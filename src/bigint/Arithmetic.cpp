@@ -2,6 +2,7 @@
 #include "qel/LargeInteger.h"
 
 #include "Product.h"
+#include "Representation.h"
 
 #include <algorithm>
 
@@ -9,32 +10,32 @@ namespace qel {
 
 using namespace internal;
 
-/// |this| + |b|; the flag stays.
-void LargeInteger::addMagnitude(LargeInteger const& b) noexcept {
-    long long const bound = std::max(highestBit, b.highestBit) + 1LL;
+/// |a| + |b|; the flag stays.
+void internal::Representation::addMagnitude(LargeInteger& a, LargeInteger const& b) noexcept {
+    long long const bound = std::max(a.highestBit, b.highestBit) + 1LL;
     int const top = wordIndex(bound) + 1;
-    ensureSize(top);
+    a.ensureSize(top);
     std::uint64_t sum = 0;
     for (int i = 0; i <= top; ++i) {
-        sum += data[i];
+        sum += a.data[i];
         if (i < b.size)
             sum += b.data[i];
-        data[i] = static_cast<std::uint32_t>(sum);
+        a.data[i] = static_cast<std::uint32_t>(sum);
         sum >>= bitsPerWord;
     }
-    refreshHighestBit(bound);
+    refreshHighestBit(a, bound);
 }
 
-/// |this| - |b| for |this| >= |b|; the flag and the cached bound stay, which may leave the bound
-/// too high.
-void LargeInteger::subtractMagnitude(LargeInteger const& b) noexcept {
-    int const top = wordIndex(highestBit);
+/// |a| - |b| for |a| >= |b|; the flag and the cached bound stay, which may leave the bound too
+/// high.
+void internal::Representation::subtractMagnitude(LargeInteger& a, LargeInteger const& b) noexcept {
+    int const top = wordIndex(a.highestBit);
     int const bTop = wordIndex(b.highestBit);
     std::uint64_t borrow = 0;
     for (int i = 0; i <= top; ++i) {
         std::uint64_t const sub = borrow + (i <= bTop ? b.data[i] : 0U);
-        borrow = data[i] < sub ? 1 : 0;
-        data[i] = static_cast<std::uint32_t>(data[i] - sub);
+        borrow = a.data[i] < sub ? 1 : 0;
+        a.data[i] = static_cast<std::uint32_t>(a.data[i] - sub);
     }
 }
 
@@ -42,7 +43,7 @@ LargeInteger& LargeInteger::operator+=(LargeInteger const& b) noexcept {
     if (b.isNegative())
         return *this -= -b;
     if (!isNegative()) {
-        addMagnitude(b);  // a negative zero keeps its flag: -0 + 5 is -5
+        Representation::addMagnitude(*this, b);  // a negative zero keeps its flag: -0 + 5 is -5
         return *this;
     }
     if (compareAbsolute(b) >= 0) {
@@ -65,7 +66,7 @@ LargeInteger& LargeInteger::operator-=(LargeInteger const& b) noexcept {
         *this += b;
         negative = !isZero();
     } else if (compareAbsolute(b) >= 0) {
-        subtractMagnitude(b);
+        Representation::subtractMagnitude(*this, b);
     } else {
         LargeInteger smaller(b);
         swapWith(smaller);
@@ -76,8 +77,8 @@ LargeInteger& LargeInteger::operator-=(LargeInteger const& b) noexcept {
 }
 
 LargeInteger& LargeInteger::operator*=(LargeInteger const& b) noexcept {
-    Magnitude const left{data, getHighestBit()};
-    Magnitude const right{b.data, b.getHighestBit()};
+    Magnitude const left = Representation::magnitude(*this);
+    Magnitude const right = Representation::magnitude(b);
     bool const leftNegative = negative && left.top >= 0;
     // In x *= x the sign of b goes with the one of x before it is read, so the product keeps the
     // sign of x.
@@ -85,7 +86,7 @@ LargeInteger& LargeInteger::operator*=(LargeInteger const& b) noexcept {
     Product const product(left, right);
     int const capacity = productCapacity(left, right.top);
     std::uint32_t* const words = zeroedBuffer(capacity);
-    storeWords(words, product.limbs, product.top);
+    storeWords(words, product.value, product.top);
     std::free(data);
     data = words;
     size = capacity;
@@ -108,8 +109,8 @@ LargeInteger LargeInteger::operator-(LargeInteger const& b) const noexcept {
 }
 
 LargeInteger LargeInteger::operator*(LargeInteger const& b) const noexcept {
-    Product const product({data, getHighestBit()}, {b.data, b.getHighestBit()});
-    return LargeInteger(product.limbs, product.top, isNegative() != b.isNegative());
+    Product const product(Representation::magnitude(*this), Representation::magnitude(b));
+    return Representation::tight(product.value, product.top, isNegative() != b.isNegative());
 }
 
 LargeInteger LargeInteger::operator-() const noexcept {

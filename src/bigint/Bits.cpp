@@ -2,7 +2,7 @@
 // that are cleared leave it where it was, and reads up to a stale bound meet zeros.
 #include "qel/LargeInteger.h"
 
-#include "Words.h"
+#include "Representation.h"
 
 #include <algorithm>
 
@@ -97,7 +97,7 @@ LargeInteger LargeInteger::getBitRange(int start, int count) const noexcept {
     for (long long done = 0; done < n; done += bitsPerWord)
         range.data[wordIndex(done)] = static_cast<std::uint32_t>(
             getBitRangeAsInt(static_cast<int>(start + done), static_cast<int>(n - done)));
-    range.refreshHighestBit(n);
+    Representation::refreshHighestBit(range, n);
     return range;
 }
 

@@ -1,7 +1,7 @@
 // And, or, exclusive or: word by word on the magnitudes; the left operand's sign flag stays.
 #include "qel/LargeInteger.h"
 
-#include "Words.h"
+#include "Representation.h"
 
 #include <algorithm>
 
@@ -14,7 +14,7 @@ LargeInteger& LargeInteger::operator&=(LargeInteger const& b) noexcept {
         data[i] = 0;
     for (int i = std::min(size, b.size) - 1; i >= 0; --i)
         data[i] &= b.data[i];
-    refreshHighestBit(std::min(highestBit, b.highestBit));
+    Representation::refreshHighestBit(*this, std::min(highestBit, b.highestBit));
     return *this;
 }
 
@@ -24,7 +24,7 @@ LargeInteger& LargeInteger::operator|=(LargeInteger const& b) noexcept {
     ensureSize(wordIndex(b.highestBit));
     for (int i = wordIndex(b.highestBit); i >= 0; --i)
         data[i] |= b.data[i];
-    refreshHighestBit(std::max(highestBit, b.highestBit));
+    Representation::refreshHighestBit(*this, std::max(highestBit, b.highestBit));
     return *this;
 }
 
@@ -34,7 +34,7 @@ LargeInteger& LargeInteger::operator^=(LargeInteger const& b) noexcept {
     ensureSize(wordIndex(b.highestBit));
     for (int i = wordIndex(b.highestBit); i >= 0; --i)
         data[i] ^= b.data[i];
-    refreshHighestBit(std::max(highestBit, b.highestBit));
+    Representation::refreshHighestBit(*this, std::max(highestBit, b.highestBit));
     return *this;
 }
 

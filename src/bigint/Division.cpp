@@ -2,35 +2,34 @@
 #include "qel/LargeInteger.h"
 
 #include "Product.h"
+#include "Representation.h"
 
-#include <algorithm>
-#include <cassert>
 #include <utility>
 
 namespace qel {
 
 using namespace internal;
 
-/// Replaces the words below the top of the value by those of `value`.
-void LargeInteger::overwrite(int oldTop, std::uint64_t const* value, int top) noexcept {
-    std::fill(data, data + wordIndex(oldTop) + 1, 0U);
-    storeWords(data, value, top);
-}
-
 // The quotient takes over the remainder's old buffer, cleared, and grows once, for its highest
-// bit; the remainder takes the dividend's buffer and keeps its bound.
+// bit; the remainder takes the dividend's buffer and keeps its bound. Where both are the same
+// object there is nothing to exchange: the dividend is gone, and so is what it would be divided
+// into.
 void LargeInteger::divideBy(LargeInteger const& divisor, LargeInteger& remainder) noexcept {
-    assert(this != &remainder && "divideBy: the remainder must not be the dividend");
-    int const top = getHighestBit();
-    int const divisorTop = divisor.getHighestBit();
-    if (top < 0 || divisorTop < 0) {
+    Magnitude const dividend = Representation::magnitude(*this);
+    Magnitude const by = Representation::magnitude(divisor);
+    if (dividend.top < 0 || by.top < 0) {
         remainder.clear();
         clear();
         return;
     }
     bool const dividendNegative = negative;
+    if (this == &remainder) {
+        clear();
+        negative = dividendNegative;
+        return;
+    }
     bool const divisorNegative = divisor.negative;
-    Quotient const result({data, top}, {divisor.data, divisorTop});
+    Quotient const result(dividend, by);
 
     std::swap(data, remainder.data);
     std::swap(size, remainder.size);
@@ -42,7 +41,8 @@ void LargeInteger::divideBy(LargeInteger const& divisor, LargeInteger& remainder
         highestBit = result.quotientTop;
     }
     negative = dividendNegative != divisorNegative;
-    remainder.overwrite(top, result.remainder, result.remainderTop);
+    Representation::replaceMagnitude(remainder, dividend.top, result.remainder,
+                                     result.remainderTop);
     remainder.negative = dividendNegative;
 }
 
@@ -53,15 +53,15 @@ LargeInteger& LargeInteger::operator/=(LargeInteger const& divisor) noexcept {
 }
 
 LargeInteger& LargeInteger::operator%=(LargeInteger const& divisor) noexcept {
-    int const top = getHighestBit();
-    int const divisorTop = divisor.getHighestBit();
-    if (top < 0 || divisorTop < 0) {
+    Magnitude const dividend = Representation::magnitude(*this);
+    Magnitude const by = Representation::magnitude(divisor);
+    if (dividend.top < 0 || by.top < 0) {
         LargeInteger zero;
         swapWith(zero);
         return *this;
     }
-    Quotient const result({data, top}, {divisor.data, divisorTop});
-    overwrite(top, result.remainder, result.remainderTop);
+    Quotient const result(dividend, by);
+    Representation::replaceMagnitude(*this, dividend.top, result.remainder, result.remainderTop);
     return *this;
 }
 
@@ -69,12 +69,12 @@ LargeInteger& LargeInteger::operator%=(LargeInteger const& divisor) noexcept {
 // sized by the dividend, whose bound it had.
 
 LargeInteger LargeInteger::operator/(LargeInteger const& divisor) const noexcept {
-    int const top = getHighestBit();
-    int const divisorTop = divisor.getHighestBit();
-    if (top < 0 || divisorTop < 0)
+    Magnitude const dividend = Representation::magnitude(*this);
+    Magnitude const by = Representation::magnitude(divisor);
+    if (dividend.top < 0 || by.top < 0)
         return LargeInteger();
-    Quotient const result({data, top}, {divisor.data, divisorTop});
-    return LargeInteger(result.quotient, result.quotientTop, negative != divisor.negative);
+    Quotient const result(dividend, by);
+    return Representation::tight(result.quotient, result.quotientTop, negative != divisor.negative);
 }
 
 LargeInteger LargeInteger::operator%(LargeInteger const& divisor) const noexcept {

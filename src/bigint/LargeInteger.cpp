@@ -5,7 +5,7 @@
 // words above the highest word written.
 #include "qel/LargeInteger.h"
 
-#include "Storage.h"
+#include "Representation.h"
 
 #include <algorithm>
 #include <utility>
@@ -43,7 +43,7 @@ LargeInteger::LargeInteger(long long v) noexcept : LargeInteger() {
     negative = v < 0;
     data[0] = static_cast<std::uint32_t>(magnitude(v));
     data[1] = static_cast<std::uint32_t>(magnitude(v) >> bitsPerWord);
-    refreshHighestBit(2LL * bitsPerWord - 1);
+    Representation::refreshHighestBit(*this, 2LL * bitsPerWord - 1);
 }
 
 // Sized by the source's cached bound, where assignment goes by its exact top.
@@ -65,14 +65,6 @@ LargeInteger::LargeInteger(LargeInteger&& source) noexcept : LargeInteger() {
         negative = source.negative;
         source.clear();
     }
-}
-
-// A tight value, as a copy would be.
-LargeInteger::LargeInteger(std::uint64_t const* limbs, int top, bool flag) noexcept
-    : data(checkedBuffer<std::uint32_t>(std::malloc(bytesFor(tightSize(top))))),
-      size(tightSize(top)), highestBit(top), negative(flag) {
-    storeWords(data, limbs, top);
-    std::fill(data + wordIndex(top) + 1, data + size + 1, 0U);
 }
 
 LargeInteger::~LargeInteger() noexcept {
@@ -132,10 +124,40 @@ void LargeInteger::ensureSize(int w) noexcept {
     size = newSize;
 }
 
-/// Stores the exact top bit, given that it is at or below bound + 1: an operation that may have
-/// carried one bit past the old top raises the bound by one and rescans.
-void LargeInteger::refreshHighestBit(long long bound) noexcept {
-    highestBit = checkedPosition(highestSetBit(data, wordIndex(bound + 1)));
+LargeInteger internal::Representation::tight(limbs::Limb const* value, long long top,
+                                             bool flag) noexcept {
+    int const bound = checkedPosition(top);
+    int const size = tightSize(bound);
+    int const used = wordIndex(bound) + 1;
+    auto* const words = checkedBuffer<std::uint32_t>(std::malloc(bytesFor(size)));
+    storeWords(words, value, bound);
+    std::fill(words + used, words + size + 1, 0U);
+    return LargeInteger(words, size, bound, flag);
+}
+
+void internal::Representation::refreshHighestBit(LargeInteger& a, long long bound) noexcept {
+    a.highestBit = checkedPosition(highestSetBit(a.data, wordIndex(bound + 1)));
+}
+
+void internal::Representation::replaceMagnitude(LargeInteger& a, int oldTop,
+                                                limbs::Limb const* value, int top) noexcept {
+    assert(top <= oldTop && oldTop <= a.highestBit);
+    std::fill(a.data, a.data + wordIndex(oldTop) + 1, 0U);
+    storeWords(a.data, value, top);
+}
+
+void internal::Representation::replaceZero(LargeInteger& a, limbs::Limb const* value, int top,
+                                           int capacity) noexcept {
+    assert(a.highestBit < 0 && !a.negative && tightSize(top) <= capacity);
+    if (capacity != a.size) {
+        std::free(a.data);
+        a.data = checkedBuffer<std::uint32_t>(std::malloc(bytesFor(capacity)));
+        a.size = capacity;
+    }
+    int const used = wordIndex(top) + 1;
+    storeWords(a.data, value, top);
+    std::memset(a.data + used, 0, bytesFor(a.size) - bytesFor(used - 1));
+    a.highestBit = top;
 }
 
 }  // namespace qel

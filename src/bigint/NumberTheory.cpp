@@ -1,7 +1,7 @@
 // Greatest common divisor, modular inverse, modular power.
 #include "qel/LargeInteger.h"
 
-#include "Storage.h"
+#include "Representation.h"
 #include "limbs/Gcd.h"
 #include "limbs/Power.h"
 
@@ -40,7 +40,7 @@ long long topOfProduct(limbs::Limb const* x, limbs::Limb const* y, std::size_t c
         return xTop + yTop;
     Workspace workspace(2 * count + limbs::multiplyScratch(count, count));
     limbs::Limb* const product = workspace.take(2 * count);
-    limbs::multiply(product, x, count, y, count, workspace.take(0));
+    limbs::multiply(product, x, count, y, count, workspace.rest());
     return topBit(product, 2 * count);
 }
 
@@ -53,10 +53,10 @@ LargeInteger LargeInteger::simpleGCD(LargeInteger* a, LargeInteger* b) noexcept 
     LargeInteger* y = b;
     while (!x->isZero()) {
         if (y->compareAbsolute(*x) > 0) {
-            y->subtractWhileLarger(*x);
+            Representation::subtractWhileLarger(*y, *x);
             std::swap(x, y);
         } else {
-            x->subtractWhileLarger(*y);
+            Representation::subtractWhileLarger(*x, *y);
         }
     }
     return LargeInteger(*y);
@@ -64,46 +64,53 @@ LargeInteger LargeInteger::simpleGCD(LargeInteger* a, LargeInteger* b) noexcept 
 
 /// What repeated subtraction of b leaves: the remainder, in the same buffer and under the same
 /// bound. A b of zero or of another sign is subtracted once: that never comes to an end.
-void LargeInteger::subtractWhileLarger(LargeInteger const& b) noexcept {
-    if (b.isZero() || b.isNegative() != isNegative()) {
-        *this -= b;
+void internal::Representation::subtractWhileLarger(LargeInteger& a,
+                                                   LargeInteger const& b) noexcept {
+    if (b.isZero() || b.isNegative() != a.isNegative()) {
+        a -= b;
         return;
     }
-    *this %= b;
-    negative = isNegative();
+    a %= b;
+    a.negative = a.isNegative();
 }
 
+// Euclid's algorithm while the sizes differ, then repeated subtraction.
 LargeInteger LargeInteger::findGreatestCommonDivisor(LargeInteger other) const noexcept {
-    if (other.isZero())
-        return LargeInteger(*this);
-    if (!isNegative() && !other.isNegative())
-        return gcdOfMagnitudes(other);
-    // Euclid's algorithm while the sizes differ, then repeated subtraction: which signs come to an
-    // end, and with which sign, rests on these steps.
     constexpr int closeEnough = 16;
     LargeInteger a(*this);
     while (!other.isZero()) {
-        if (std::abs(a.getHighestBit() - other.getHighestBit()) <= closeEnough)
+        if (std::abs(a.getHighestBit() - other.getHighestBit()) > closeEnough) {
+            LargeInteger const remainder = a % other;
+            a = other;
+            other = remainder;
+        } else if (a.isNegative() || other.isNegative()) {
+            // Which signs come to an end, and with which sign, rests on the documented steps.
             return simpleGCD(&a, &other);
-        LargeInteger const remainder = a % other;
-        a = other;
-        other = remainder;
+        } else {
+            return Representation::gcdOfMagnitudes(a, other);
+        }
     }
     return LargeInteger(a);
 }
 
-LargeInteger LargeInteger::gcdOfMagnitudes(LargeInteger const& other) const noexcept {
-    int const top = getHighestBit();
-    int const otherTop = other.getHighestBit();
-    std::size_t const count = limbCount(std::max({top, otherTop, 0}));
+/// What simpleGCD returns for two values that are not negative: a copy of the one that is not zero
+/// in the end, under the bound that it had from the beginning.
+LargeInteger internal::Representation::gcdOfMagnitudes(LargeInteger const& a,
+                                                       LargeInteger const& b) noexcept {
+    Magnitude const first = magnitude(a);
+    Magnitude const second = magnitude(b);
+    std::size_t const count = limbCount(std::max({first.top, second.top, 0}));
     Workspace workspace(3 * count + limbs::gcdScratch(count));
-    limbs::Limb* const a = workspace.take(count);
-    limbs::Limb* const b = workspace.take(count);
+    limbs::Limb* const x = workspace.take(count);
+    limbs::Limb* const y = workspace.take(count);
     limbs::Limb* const out = workspace.take(count);
-    loadLimbs(a, count, data, top);
-    loadLimbs(b, count, other.data, otherTop);
-    limbs::gcd(out, a, b, count, workspace.take(0));
-    return LargeInteger(out, static_cast<int>(topBit(out, count)), false);
+    loadLimbs(x, count, first);
+    loadLimbs(y, count, second);
+    bool const isInSecond = limbs::gcd(out, x, y, count, workspace.rest());
+    LargeInteger divisor;
+    replaceZero(divisor, out, static_cast<int>(topBit(out, count)),
+                tightSize(isInSecond ? second.top : first.top));
+    return divisor;
 }
 
 // Extended Euclid on (m, this): the coefficients c and d follow the remainders a and b, with m
@@ -121,7 +128,7 @@ void LargeInteger::inverseModulo(LargeInteger const& m) noexcept {
         clear();
         return;
     }
-    if (!isNegative() && invert(m))
+    if (!isNegative() && Representation::invert(*this, m))
         return;
     // A negative value ends where the remainders, signs and all, come to +1; one that shares a
     // factor with m never does.
@@ -152,33 +159,32 @@ void LargeInteger::inverseModulo(LargeInteger const& m) noexcept {
 /// m and 1 instead of 0 and 1; and |t| <= m / 2, as Euclid's are. So t is the inverse i or i - m,
 /// whichever is smaller in size. A negative t makes d positive, which then keeps its own bound; a
 /// positive t makes d negative, and adding m leaves the bound of m.
-bool LargeInteger::invert(LargeInteger const& m) noexcept {
-    int const top = getHighestBit();
-    int const mTop = m.getHighestBit();
-    std::size_t const count = limbCount(mTop);
+bool internal::Representation::invert(LargeInteger& a, LargeInteger const& m) noexcept {
+    Magnitude const value = magnitude(a);
+    Magnitude const divisor = magnitude(m);
+    std::size_t const count = limbCount(divisor.top);
     Workspace workspace(3 * count + limbs::inverseScratch(count));
     limbs::Limb* const v = workspace.take(count);
     limbs::Limb* const modulus = workspace.take(count);
     limbs::Limb* const out = workspace.take(count);
-    loadLimbs(v, count, data, top);
-    loadLimbs(modulus, count, m.data, mTop);
-    if (!limbs::inverse(out, v, modulus, count, workspace.take(0)))
+    loadLimbs(v, count, value);
+    loadLimbs(modulus, count, divisor);
+    if (!limbs::inverse(out, v, modulus, count, workspace.rest()))
         return false;
     // Both operands are used up; i - m takes the place of the modulus.
-    loadLimbs(modulus, count, m.data, mTop);
+    loadLimbs(modulus, count, divisor);
     limbs::subtract(modulus, modulus, out, count);
-    int bound = mTop;
+    int bound = divisor.top;
     if (limbs::compare(out, modulus, count) > 0) {
-        loadLimbs(v, count, data, top);
+        loadLimbs(v, count, value);
         // v is odd, so v - 1 is even, and 1 more than the product does not move the highest bit.
         v[0] -= 1;
         bound = checkedPosition(topOfProduct(modulus, v, count));
     }
-    std::free(data);
-    size = tightSize(bound);
-    data = zeroedBuffer(size);
-    storeWords(data, out, static_cast<int>(topBit(out, count)));
-    highestBit = bound;
+    LargeInteger inverse;
+    replaceZero(inverse, out, static_cast<int>(topBit(out, count)), tightSize(bound));
+    inverse.highestBit = bound;
+    a.swapWith(inverse);
     return true;
 }
 
@@ -193,7 +199,7 @@ void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) 
     base %= modulus;
     if (!exponent.isZero() && !base.isZero() && !base.isNegative()) {
         *this = base;
-        raise(exponent, modulus);
+        Representation::raise(*this, exponent, modulus);
         return;
     }
     // A base of zero, and the signs that squaring in place gives a negative one.
@@ -208,31 +214,32 @@ void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) 
     }
 }
 
-/// Becomes its power; neither this value, which is below the modulus, nor the exponent is zero.
+/// Becomes its power; neither the base, which is below the modulus, nor the exponent is zero.
 ///
 /// Bound and capacity are those of the last product before its reduction.
-void LargeInteger::raise(LargeInteger const& exponent, LargeInteger const& modulus) noexcept {
-    std::size_t const count = limbCount(modulus.highestBit);
-    std::size_t const exponentCount = limbCount(exponent.getHighestBit());
-    int const top = exponent.getHighestBit();
+void internal::Representation::raise(LargeInteger& base, LargeInteger const& exponent,
+                                     LargeInteger const& modulus) noexcept {
+    Magnitude const exponentBits = magnitude(exponent);
+    int const top = exponentBits.top;
+    Magnitude const divisor = magnitude(modulus);
+    std::size_t const count = limbCount(divisor.top);
+    std::size_t const exponentCount = limbCount(top);
     Workspace workspace(5 * count + exponentCount + limbs::powerScratch(count, top));
     limbs::Limb* const m = workspace.take(count);
-    limbs::Limb* const base = workspace.take(count);
+    limbs::Limb* const b = workspace.take(count);
     limbs::Limb* const lower = workspace.take(count);
     limbs::Limb* const highest = workspace.take(count);
     limbs::Limb* const result = workspace.take(count);
     limbs::Limb* const e = workspace.take(exponentCount);
-    loadLimbs(m, count, modulus.data, modulus.highestBit);
-    loadLimbs(base, count, data, getHighestBit());
-    loadLimbs(e, exponentCount, exponent.data, top);
-    limbs::power(result, lower, highest, base, e, top, m, count, workspace.take(0));
+    loadLimbs(m, count, divisor);
+    loadLimbs(b, count, magnitude(base));
+    loadLimbs(e, exponentCount, exponentBits);
+    limbs::power(result, lower, highest, b, e, top, m, count, workspace.rest());
 
-    LargeInteger const left(lower, static_cast<int>(topBit(lower, count)), false);
-    LargeInteger const right(highest, static_cast<int>(topBit(highest, count)), false);
-    *this = left;
-    *this *= right;
-    if (!isZero())
-        overwrite(highestBit, result, static_cast<int>(topBit(result, count)));
+    base = tight(lower, topBit(lower, count), false);
+    base *= tight(highest, topBit(highest, count), false);
+    if (!base.isZero())
+        replaceMagnitude(base, base.highestBit, result, static_cast<int>(topBit(result, count)));
 }
 
 }  // namespace qel

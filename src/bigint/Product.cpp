@@ -21,7 +21,7 @@ std::size_t productWorkspace(Magnitude a, Magnitude b) noexcept {
     if (a.top < 0 || b.top < 0)
         return 0;
     // The product's top or the position below it: one out of reach ends before the long work.
-    checkedPosition(static_cast<long long>(a.top) + b.top);
+    requireIndex(static_cast<long long>(a.top) + b.top);
     std::size_t const longer = limbCount(std::max(a.top, b.top));
     std::size_t const shorter = limbCount(std::min(a.top, b.top));
     return 2 * (longer + shorter)
@@ -44,15 +44,15 @@ Product::Product(Magnitude a, Magnitude b) noexcept : workspace(productWorkspace
     std::size_t const bCount = limbCount(b.top);
     limbs::Limb* const out = workspace.take(aCount + bCount);
     limbs::Limb* const aLimbs = workspace.take(aCount);
-    loadLimbs(aLimbs, aCount, a.words, a.top);
+    loadLimbs(aLimbs, aCount, a);
     if (a.words == b.words) {
-        limbs::square(out, aLimbs, aCount, workspace.take(0));
+        limbs::square(out, aLimbs, aCount, workspace.rest());
     } else {
         limbs::Limb* const bLimbs = workspace.take(bCount);
-        loadLimbs(bLimbs, bCount, b.words, b.top);
-        limbs::multiply(out, aLimbs, aCount, bLimbs, bCount, workspace.take(0));
+        loadLimbs(bLimbs, bCount, b);
+        limbs::multiply(out, aLimbs, aCount, bLimbs, bCount, workspace.rest());
     }
-    limbs = out;
+    value = out;
     top = checkedPosition(topBit(out, aCount + bCount));
 }
 
@@ -78,11 +78,11 @@ Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
     limbs::Limb* const a = workspace.take(aCount + 1);
     limbs::Limb* const q = workspace.take(aCount + 1);
     limbs::Limb* const d = workspace.take(count);
-    loadLimbs(a, aCount, dividend.words, dividend.top);
+    loadLimbs(a, aCount, dividend);
     remainder = a;
     if (dividend.top < divisor.top)
         return;
-    loadLimbs(d, count, divisor.words, divisor.top);
+    loadLimbs(d, count, divisor);
     quotient = q;
     if (count == 1) {
         a[0] = limbs::divideLimb(q, a, aCount, d[0]);
@@ -95,7 +95,7 @@ Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
     a[aCount] = shift == 0 ? 0 : limbs::shiftLeft(a, a, aCount, shift);
     if (shift != 0)
         limbs::shiftLeft(d, d, count, shift);
-    limbs::divide(q, a, aCount + 1, d, count, workspace.take(0));
+    limbs::divide(q, a, aCount + 1, d, count, workspace.rest());
     if (shift != 0)
         limbs::shiftRight(a, a, count, shift);
     quotientTop = static_cast<int>(topBit(q, aCount + 1 - count));

@@ -6,18 +6,12 @@
 
 namespace qel::internal {
 
-/// A magnitude to compute with: words, and the exact index of the highest set bit (-1 for zero).
-struct Magnitude {
-    std::uint32_t const* words;
-    int top;
-};
-
 class Product {
   public:
     Product(Magnitude a, Magnitude b) noexcept;
 
     /// The limbs of the product, and its exact top; no limbs when the top is -1.
-    limbs::Limb const* limbs = nullptr;
+    limbs::Limb const* value = nullptr;
     int top = -1;
 
   private:

@@ -2,7 +2,7 @@
 // one, for edits of a few positions.
 #include "qel/LargeInteger.h"
 
-#include "Words.h"
+#include "Representation.h"
 
 #include <algorithm>
 
@@ -11,90 +11,90 @@ namespace qel {
 using namespace internal;
 
 void LargeInteger::shiftBits(int count, int from) noexcept {
-    shiftBy(count, from);
+    Representation::shiftBy(*this, count, from);
 }
 
 /// The distance is 64 bits wide so that it can always be negated.
-void LargeInteger::shiftBy(long long distance, int from) noexcept {
-    if (highestBit < 0 || distance == 0)
+void internal::Representation::shiftBy(LargeInteger& a, long long distance, int from) noexcept {
+    if (a.highestBit < 0 || distance == 0)
         return;
     if (from <= 0) {
         if (distance > 0)
-            shiftLeft(distance);
+            shiftLeft(a, distance);
         else
-            shiftRight(-distance);
+            shiftRight(a, -distance);
     } else {
         if (distance > 0)
-            shiftLeftFrom(from, distance);
+            shiftLeftFrom(a, from, distance);
         else
-            shiftRightFrom(from, -distance);
+            shiftRightFrom(a, from, -distance);
     }
 }
 
-void LargeInteger::shiftLeft(long long count) noexcept {
-    long long const bound = highestBit + count;
-    checkedPosition(getHighestBit() + count);
-    ensureSize(wordIndex(bound) + 1);
-    int const oldTop = wordIndex(highestBit);
+void internal::Representation::shiftLeft(LargeInteger& a, long long count) noexcept {
+    long long const bound = a.highestBit + count;
+    requireIndex(a.getHighestBit() + count);
+    a.ensureSize(wordIndex(bound) + 1);
+    int const oldTop = wordIndex(a.highestBit);
     int const words = wordIndex(count);
     int const bits = static_cast<int>(count % bitsPerWord);
     if (words > 0) {
         for (int i = oldTop; i >= 0; --i)
-            data[i + words] = data[i];
-        std::fill(data, data + words, 0U);
+            a.data[i + words] = a.data[i];
+        std::fill(a.data, a.data + words, 0U);
     }
     if (bits != 0) {
         for (int j = oldTop + words + 1; j > words; --j)
-            data[j] = (data[j] << bits) | (data[j - 1] >> (bitsPerWord - bits));
-        data[words] <<= bits;
+            a.data[j] = (a.data[j] << bits) | (a.data[j - 1] >> (bitsPerWord - bits));
+        a.data[words] <<= bits;
     }
-    refreshHighestBit(bound);
+    refreshHighestBit(a, bound);
 }
 
-void LargeInteger::shiftRight(long long count) noexcept {
-    if (highestBit < count) {
-        clear();
+void internal::Representation::shiftRight(LargeInteger& a, long long count) noexcept {
+    if (a.highestBit < count) {
+        a.clear();
         return;
     }
-    long long const bound = highestBit - count;
-    int const oldTop = wordIndex(highestBit);
+    long long const bound = a.highestBit - count;
+    int const oldTop = wordIndex(a.highestBit);
     int const words = wordIndex(count);
     int const bits = static_cast<int>(count % bitsPerWord);
     int const newTop = oldTop - words;
     if (words > 0) {
         for (int k = 0; k <= newTop; ++k)
-            data[k] = data[k + words];
-        std::fill(data + newTop + 1, data + oldTop + 1, 0U);
+            a.data[k] = a.data[k + words];
+        std::fill(a.data + newTop + 1, a.data + oldTop + 1, 0U);
     }
     if (bits != 0) {
         for (int k = 0; k < newTop; ++k)
-            data[k] = (data[k] >> bits) | (data[k + 1] << (bitsPerWord - bits));
-        data[newTop] >>= bits;
+            a.data[k] = (a.data[k] >> bits) | (a.data[k + 1] << (bitsPerWord - bits));
+        a.data[newTop] >>= bits;
     }
-    refreshHighestBit(bound);
+    refreshHighestBit(a, bound);
 }
 
 // The bound follows the highest bit that setBit meets and is not rescanned.
-void LargeInteger::shiftLeftFrom(int from, long long count) noexcept {
-    for (long long i = highestBit; i >= from; --i) {
+void internal::Representation::shiftLeftFrom(LargeInteger& a, int from, long long count) noexcept {
+    for (long long i = a.highestBit; i >= from; --i) {
         long long const target = i + count;
-        if ((*this)[static_cast<int>(i)] != 0)
-            setBit(checkedPosition(target));
-        else if (target <= highestBit)
-            clearBit(static_cast<int>(target));
+        if (a[static_cast<int>(i)] != 0)
+            a.setBit(checkedPosition(target));
+        else if (target <= a.highestBit)
+            a.clearBit(static_cast<int>(target));
     }
-    long long const gapEnd = std::min(from + count, highestBit + 1LL);
+    long long const gapEnd = std::min(from + count, a.highestBit + 1LL);
     for (long long i = from; i < gapEnd; ++i)
-        clearBit(static_cast<int>(i));
+        a.clearBit(static_cast<int>(i));
 }
 
-void LargeInteger::shiftRightFrom(int from, long long count) noexcept {
-    for (long long target = from; target <= highestBit; ++target) {
+void internal::Representation::shiftRightFrom(LargeInteger& a, int from, long long count) noexcept {
+    for (long long target = from; target <= a.highestBit; ++target) {
         long long const source = target + count;
-        setBit(static_cast<int>(target),
-               source <= highestBit && (*this)[static_cast<int>(source)] != 0);
+        a.setBit(static_cast<int>(target),
+                 source <= a.highestBit && a[static_cast<int>(source)] != 0);
     }
-    refreshHighestBit(highestBit);
+    refreshHighestBit(a, a.highestBit);
 }
 
 LargeInteger& LargeInteger::operator<<=(int n) noexcept {
@@ -103,7 +103,7 @@ LargeInteger& LargeInteger::operator<<=(int n) noexcept {
 }
 
 LargeInteger& LargeInteger::operator>>=(int n) noexcept {
-    shiftBy(-static_cast<long long>(n), 0);
+    Representation::shiftBy(*this, -static_cast<long long>(n), 0);
     return *this;
 }
 

@@ -7,6 +7,7 @@
 #include "limbs/Limbs.h"
 
 #include <array>
+#include <cassert>
 #include <cstdlib>
 #include <cstring>
 
@@ -51,15 +52,21 @@ inline std::size_t limbCount(long long top) noexcept {
     return static_cast<std::size_t>(top / limbs::bitsPerLimb) + 1;
 }
 
-/// Copies the words that hold bits 0 to `top` to `count` limbs, with zeros above. On a machine that
-/// stores the lowest byte first, two words in a row have the bytes of a limb.
-inline void loadLimbs(limbs::Limb* out, std::size_t count, std::uint32_t const* words,
-                      int top) noexcept {
+/// A magnitude to compute with: words, and the exact index of the highest set bit (-1 for zero).
+struct Magnitude {
+    std::uint32_t const* words;
+    int top;
+};
+
+/// Copies a magnitude to `count` limbs, with zeros above. On a machine that stores the lowest byte
+/// first, two words in a row have the bytes of a limb.
+inline void loadLimbs(limbs::Limb* out, std::size_t count, Magnitude a) noexcept {
     static_assert(std::endian::native == std::endian::little);
-    std::size_t const wordCount = static_cast<std::size_t>(wordIndex(top)) + 1;
+    std::size_t const wordCount = static_cast<std::size_t>(wordIndex(a.top)) + 1;
+    assert(wordCount <= 2 * count);
     for (std::size_t i = wordCount / 2; i < count; ++i)
         out[i] = 0;
-    std::memcpy(out, words, wordCount * sizeof *words);
+    std::memcpy(out, a.words, wordCount * sizeof *a.words);
 }
 
 inline void storeWords(std::uint32_t* words, limbs::Limb const* in, int top) noexcept {
@@ -83,7 +90,7 @@ class Workspace {
         : memory(count <= local.size()
                      ? local.data()
                      : checkedBuffer<limbs::Limb>(std::malloc(count * sizeof(limbs::Limb)))),
-          free(memory) {}
+          next(memory), end(memory + count) {}
 
     ~Workspace() {
         if (memory != local.data())
@@ -95,15 +102,20 @@ class Workspace {
 
     /// The next `count` limbs.
     limbs::Limb* take(std::size_t count) noexcept {
-        limbs::Limb* const taken = free;
-        free += count;
+        assert(count <= static_cast<std::size_t>(end - next));
+        limbs::Limb* const taken = next;
+        next += count;
         return taken;
     }
+
+    /// All limbs that are left, as scratch.
+    [[nodiscard]] limbs::Limb* rest() const noexcept { return next; }
 
   private:
     std::array<limbs::Limb, 640> local;
     limbs::Limb* memory;
-    limbs::Limb* free;
+    limbs::Limb* next;
+    limbs::Limb* end;
 };
 
 }  // namespace qel::internal

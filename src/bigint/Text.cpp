@@ -3,6 +3,7 @@
 
 #include "../text/HexDigit.h"
 #include "Product.h"
+#include "Representation.h"
 #include "limbs/Decimal.h"
 #include "limbs/EightDigits.h"
 
@@ -53,9 +54,9 @@ std::string textOfDecimal(Magnitude a, bool negative) noexcept {
     std::size_t const groups = limbs::decimalGroups(count);
     Workspace workspace(count + 1 + limbs::toDecimalScratch(groups));
     limbs::Limb* const rest = workspace.take(count + 1);
-    loadLimbs(rest, count, a.words, a.top);
+    loadLimbs(rest, count, a);
     std::string text(1 + groups * limbs::digitsPerGroup, '0');
-    limbs::toDecimal(text.data() + 1, groups, rest, count, workspace.take(0));
+    limbs::toDecimal(text.data() + 1, groups, rest, count, workspace.rest());
     std::size_t start = text.find_first_not_of('0');
     if (negative)
         text[--start] = '-';
@@ -80,7 +81,7 @@ constexpr unsigned int digitValue(char c) noexcept {
 /// Fills limbs with bits from the lowest up.
 class LimbFiller {
   public:
-    explicit LimbFiller(limbs::Limb* limbs) noexcept : out(limbs) {}
+    explicit LimbFiller(limbs::Limb* first) noexcept : out(first) {}
 
     /// Adds `count` <= 32 bits.
     void put(limbs::Limb bits, int count) noexcept {
@@ -177,7 +178,7 @@ std::string_view decimalDigits(std::string_view text, std::string& copy) noexcep
 }  // namespace
 
 std::string LargeInteger::toString(int radix) const noexcept {
-    Magnitude const magnitude{data, getHighestBit()};
+    Magnitude const magnitude = Representation::magnitude(*this);
     if (magnitude.top < 0)
         return {};
     switch (radix) {
@@ -198,16 +199,16 @@ void LargeInteger::parseString(std::string const& text, int radix) noexcept {
     clear();
     switch (radix) {
     case 2:
-        parseBits<1>(text.c_str());
+        Representation::parseBits<1>(*this, text.c_str());
         break;
     case 8:
-        parseBits<3>(text.c_str());
+        Representation::parseBits<3>(*this, text.c_str());
         break;
     case 10:
-        parseDecimal(text.c_str());
+        Representation::parseDecimal(*this, text.c_str());
         break;
     case 16:
-        parseBits<4>(text.c_str());
+        Representation::parseBits<4>(*this, text.c_str());
         break;
     default:
         break;
@@ -217,21 +218,21 @@ void LargeInteger::parseString(std::string const& text, int radix) noexcept {
 
 /// Reads into a plain zero.
 template <int bits>
-void LargeInteger::parseBits(char const* text) noexcept {
+void internal::Representation::parseBits(LargeInteger& a, char const* text) noexcept {
     std::string_view const characters(text);
     Workspace workspace(characters.size() * bits / limbs::bitsPerLimb + 1);
-    limbs::Limb* const value = workspace.take(0);
+    limbs::Limb* const value = workspace.rest();
     LimbFiller filler(value);
     readBits<bits>(filler, characters);
     auto const count = static_cast<std::size_t>(filler.finish() - value);
     int const top = checkedPosition(topBit(value, count));
-    become(value, top, capacityAfterDigits(size, top, bits));
+    replaceZero(a, value, top, capacityAfterDigits(a.size, top, bits));
 }
 
 /// Reads into a plain zero. A product has a fresh buffer, so the books are those of the last
 /// multiplication by ten and addition of a digit. The factor, all digits before the last, stands in
 /// the object's words while its bits tell the product's capacity.
-void LargeInteger::parseDecimal(char const* text) noexcept {
+void internal::Representation::parseDecimal(LargeInteger& a, char const* text) noexcept {
     std::string copy;
     std::string_view digits = decimalDigits(text, copy);
     if (digits.empty())
@@ -243,29 +244,16 @@ void LargeInteger::parseDecimal(char const* text) noexcept {
     std::size_t const count = groups + 1;
     Workspace workspace(count + limbs::fromDecimalScratch(groups));
     limbs::Limb* const value = workspace.take(count);
-    limbs::fromDecimal(value, digits.data(), digits.size(), workspace.take(0));
+    limbs::fromDecimal(value, digits.data(), digits.size(), workspace.rest());
     value[groups] = 0;
     int const factorTop = checkedPosition(topBit(value, count));
-    ensureSize(wordIndex(factorTop));
-    storeWords(data, value, factorTop);
+    a.ensureSize(wordIndex(factorTop));
+    storeWords(a.data, value, factorTop);
     limbs::multiplyLimb(value, value, count, 10);
-    int const capacity = grownSize(productCapacity({data, factorTop}, topOfTen),
+    int const capacity = grownSize(productCapacity({a.data, factorTop}, topOfTen),
                                    wordIndex(topBit(value, count) + 1) + 1);
     limbs::addLimb(value, value, count, last);
-    become(value, checkedPosition(topBit(value, count)), capacity);
-}
-
-/// A plain zero becomes a value with its capacity.
-void LargeInteger::become(std::uint64_t const* value, int top, int capacity) noexcept {
-    if (capacity != size) {
-        std::free(data);
-        data = checkedBuffer<std::uint32_t>(std::malloc(bytesFor(capacity)));
-        size = capacity;
-    }
-    int const used = wordIndex(top) + 1;
-    storeWords(data, value, top);
-    std::memset(data + used, 0, bytesFor(size) - bytesFor(used - 1));
-    highestBit = top;
+    replaceZero(a, value, checkedPosition(topBit(value, count)), capacity);
 }
 
 }  // namespace qel

@@ -29,11 +29,16 @@ inline long long highestSetBit(std::uint32_t const* words, int top) noexcept {
     return -1;
 }
 
+/// Ends the process for a position that no int can index.
+inline void requireIndex(long long position) noexcept {
+    if (position > INT_MAX)
+        endProcessTooWide();
+}
+
 /// A position or a count of bits as the int that the interface speaks of; -1 for every position
 /// below 0.
 inline int checkedPosition(long long position) noexcept {
-    if (position > INT_MAX)
-        endProcessTooWide();
+    requireIndex(position);
     return position < 0 ? -1 : static_cast<int>(position);
 }
 

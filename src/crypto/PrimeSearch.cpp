@@ -5,8 +5,7 @@
 
 #include "qel/Random.h"
 
-#include "../bigint/Storage.h"
-#include "NumberLimbs.h"
+#include "../bigint/Representation.h"
 #include "Screening.h"
 #include "Witnesses.h"
 
@@ -23,9 +22,9 @@ using limbs::Limb;
 
 LargeInteger startingValue(int bitCount, int const* seeds, int seedCount) noexcept {
     LargeInteger start;
-    for (int i = seedCount - 1; i >= 0; --i) {
+    for (int i = seedCount; i > 0; --i) {
         LargeInteger fill;
-        Random(seeds[i]).fillBitsRandomly(fill, 0, bitCount);
+        Random(seeds[i - 1]).fillBitsRandomly(fill, 0, bitCount);
         start ^= fill;
     }
     if (bitCount > 0)
@@ -50,13 +49,15 @@ Limb worthwhileLimit(int bitCount, std::size_t atOnce) noexcept {
 /// there are as many as are tested at once.
 class CandidateWalk {
   public:
-    /// @param base even; it, and the end of the walk, are below the double of 2^bitCount
-    CandidateWalk(LargeInteger const& base, int bitCount, int witnessLimit,
+    /// @param first even: the candidates are the odd numbers above it. It, and the end of the walk,
+    ///     are below the double of 2^bitCount
+    CandidateWalk(LargeInteger const& first, int bitCount, int witnessLimit,
                   Workspace& workspace) noexcept
         : count(limbsFor(bitCount)), witnessCount(witnessLimit), most(numbersAtOnce(count)),
-          screening(copied(base, workspace.take(count), count), count, witnessCount,
-                    worthwhileLimit(bitCount, most), workspace.take(screeningScratch(count))),
-          scratch(workspace.take(witnessScratch(count))) {
+          start(workspace.take(count)), screeningSpace(workspace.take(screeningScratch(count))),
+          testSpace(workspace.take(witnessScratch(count))),
+          screening(loaded(first, start, count), count, witnessCount,
+                    worthwhileLimit(bitCount, most), screeningSpace) {
         for (std::size_t k = 0; k < most; ++k)
             candidates[k] = workspace.take(count);
     }
@@ -66,87 +67,93 @@ class CandidateWalk {
         return (1 + mostNumbersAtOnce) * count + screeningScratch(count) + witnessScratch(count);
     }
 
-    /// The index of the first of the next `length` odd numbers that passes; -1 when none does.
-    [[nodiscard]] int findPassing(int length) noexcept {
-        for (int first = 0; first < length;) {
-            int const step = std::min(length - first, Screening::windowLength);
-            int const found = findInWindow(first, step);
-            if (found >= 0)
-                return found;
+    /// The highest bit of the even number where the walk goes on.
+    [[nodiscard]] long long highestBit() const noexcept { return topBit(screening.base(), count); }
+
+    /// Whether one of the next `length` odd numbers passes; the first to do so is the prime.
+    [[nodiscard]] bool findPrime(int length) noexcept {
+        for (int done = 0; done < length;) {
+            int const step = std::min(length - done, Screening::windowLength);
+            if (findInWindow(step))
+                return true;
             screening.advance(step);
-            first += step;
+            done += step;
         }
         return testGathered();
+    }
+
+    [[nodiscard]] LargeInteger prime() const noexcept {
+        return Representation::tight(found, topBit(found, count), false);
     }
 
   private:
     /// Room for bitCount + 1 bits, and for the blocks that leave a small width far behind.
     static std::size_t limbsFor(int bitCount) noexcept { return limbCount(std::max(bitCount, 0)); }
 
-    static Limb const* copied(LargeInteger const& base, Limb* out, std::size_t count) noexcept {
-        copyLimbs(out, count, base);
+    static Limb const* loaded(LargeInteger const& value, Limb* out, std::size_t count) noexcept {
+        loadLimbs(out, count, Representation::magnitude(value));
         return out;
     }
 
-    int findInWindow(int first, int length) noexcept {
+    bool findInWindow(int length) noexcept {
         Screening::Window const struck = screening.window(length);
         for (int i = 0; i < length; ++i) {
             if (struck[static_cast<std::size_t>(i)])
                 continue;
             limbs::addLimb(candidates[gathered], screening.base(), count,
                            2 * static_cast<Limb>(i) + 1);
-            indices[gathered++] = first + i;
-            int const found = gathered == most ? testGathered() : -1;
-            if (found >= 0)
-                return found;
+            ++gathered;
+            if (gathered == most && testGathered())
+                return true;
         }
-        return -1;
+        return false;
     }
 
-    /// The index of the first one gathered that passes, -1 when none does; then gathers anew.
-    int testGathered() noexcept {
-        std::size_t next = 0;
-        while (next < gathered) {
-            int const found = internal::findPassing({candidates.data() + next, gathered - next},
-                                                    count, witnessCount, scratch);
-            if (found < 0)
+    /// Whether one of those gathered passes; then gathers anew.
+    bool testGathered() noexcept {
+        for (std::size_t next = 0; next < gathered; ++next) {
+            int const passed = indexOfPassing({candidates.data() + next, gathered - next}, count,
+                                              witnessCount, testSpace);
+            if (passed < 0)
                 break;
-            next += static_cast<std::size_t>(found);
+            next += static_cast<std::size_t>(passed);
             // Last, though documented to come first: it hardly ever says anything about a number
             // that passes.
-            if (!isStruckByDivisors(candidates[next], count))
-                return indices[next];
-            ++next;
+            if (!isStruckByDivisors(candidates[next], count)) {
+                found = candidates[next];
+                return true;
+            }
         }
         gathered = 0;
-        return -1;
+        return false;
     }
 
     std::size_t count;
     int witnessCount;
     std::size_t most;
+    Limb* start;
+    Limb* screeningSpace;
+    Limb* testSpace;
     Screening screening;
-    Limb* scratch;
     std::size_t gathered = 0;
     std::array<Limb*, mostNumbersAtOnce> candidates;
-    std::array<int, mostNumbersAtOnce> indices;
+    Limb const* found = nullptr;
 };
 
 }  // namespace
 
 LargeInteger PrimesNumber::createProbablePrime(int bitCount, int witnessCount, int const* seeds,
                                                int seedCount) noexcept {
-    LargeInteger base = startingValue(bitCount, seeds, seedCount);
+    LargeInteger const start = startingValue(bitCount, seeds, seedCount);
     int const length = checkedPosition(blockLength(bitCount));
-    LargeInteger const blockSpan(2LL * length);
     Workspace workspace(CandidateWalk::limbsNeeded(bitCount));
-    CandidateWalk walk(base + blockSpan, bitCount, witnessCount, workspace);
-    while (base.getHighestBit() < bitCount) {
-        // Before the first block too: the stretch just above the start is never searched.
-        base += blockSpan;
-        int const index = walk.findPassing(length);
-        if (index >= 0)
-            return base + LargeInteger(2U * static_cast<unsigned int>(index) + 1U);
+    // The stretch just above the start is never searched.
+    CandidateWalk walk(start + LargeInteger(2LL * length), bitCount, witnessCount, workspace);
+    // A block is searched when the one before it began within the width.
+    for (bool isWithin = start.getHighestBit() < bitCount; isWithin;) {
+        isWithin = walk.highestBit() < bitCount;
+        if (walk.findPrime(length))
+            return walk.prime();
     }
     return LargeInteger();
 }

@@ -2,8 +2,7 @@
 // the rest.
 #include "qel/PrimesNumber.h"
 
-#include "../bigint/Storage.h"
-#include "NumberLimbs.h"
+#include "../bigint/Representation.h"
 #include "Witnesses.h"
 
 namespace qel {
@@ -40,12 +39,13 @@ bool PrimesNumber::isProbablyPrime(LargeInteger const& n, int witnessCount) noex
     if (!n.findGreatestCommonDivisor(LargeInteger(smallPrimesProduct)).isOne())
         return false;
 
-    std::size_t const count = limbCount(n.getHighestBit());
+    Magnitude const magnitude = Representation::magnitude(n);
+    std::size_t const count = limbCount(magnitude.top);
     Workspace workspace(count + witnessScratch(count));
-    limbs::Limb* const copy = workspace.take(count);
-    copyLimbs(copy, count, n);
-    limbs::Limb const* const number = copy;
-    return findPassing({&number, 1}, count, witnessCount, workspace.take(0)) == 0;
+    limbs::Limb* const number = workspace.take(count);
+    loadLimbs(number, count, magnitude);
+    limbs::Limb const* const numbers[] = {number};
+    return indexOfPassing(numbers, count, witnessCount, workspace.rest()) == 0;
 }
 
 }  // namespace qel

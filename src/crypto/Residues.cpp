@@ -32,11 +32,12 @@ void takeResidues(std::span<std::uint16_t> out, std::span<std::uint16_t const> d
     for (std::size_t i = 0; i < out.size(); ++i) {
         if (i % (groupsAtOnce * divisorsPerGroup) == 0) {
             std::size_t const left = (out.size() - i - 1) / divisorsPerGroup + 1;
-            if (left >= groupsAtOnce)
+            if (left >= groupsAtOnce) {
                 takeRests<groupsAtOnce>(rests.data(), groups + group, n, count);
-            else
+            } else {
                 for (std::size_t k = 0; k < left; ++k)
                     takeRests<1>(&rests[k], groups + group + k, n, count);
+            }
             group += groupsAtOnce;
         }
         out[i] =

@@ -80,8 +80,8 @@ bool passesByEight(Limb const* n, std::size_t count, OddPrimes witnesses, int wi
 
 /// Nearly all numbers fail with the first witness, so that is what all are tested with; then the
 /// first to pass is tested with the others.
-int findPassingByEight(std::span<Limb const* const> numbers, std::size_t count, int witnessCount,
-                       Limb* scratch) noexcept {
+int indexByEight(std::span<Limb const* const> numbers, std::size_t count, int witnessCount,
+                 Limb* scratch) noexcept {
     std::array<Limb const*, limbs::lanes> moduli;
     moduli.fill(numbers[0]);
     std::copy(numbers.begin(), numbers.end(), moduli.begin());
@@ -107,11 +107,11 @@ std::size_t witnessScratch(std::size_t count) noexcept {
     return testsEight(count) ? limbs::strongTestsScratch(count) : limbs::strongTestScratch(count);
 }
 
-int findPassing(std::span<Limb const* const> numbers, std::size_t count, int witnessCount,
-                Limb* scratch) noexcept {
+int indexOfPassing(std::span<Limb const* const> numbers, std::size_t count, int witnessCount,
+                   Limb* scratch) noexcept {
     bool const byEight = testsEight(count) && witnessCount > 0;
     if (byEight && numbers.size() > 1)
-        return findPassingByEight(numbers, count, witnessCount, scratch);
+        return indexByEight(numbers, count, witnessCount, scratch);
     for (std::size_t k = 0; k < numbers.size(); ++k) {
         if (byEight ? passesByEight(numbers[k], count, {}, witnessCount, scratch)
                     : passesOneByOne(numbers[k], count, {}, witnessCount, scratch))

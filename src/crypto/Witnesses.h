@@ -9,7 +9,7 @@
 namespace qel::internal {
 
 inline constexpr std::size_t mostNumbersAtOnce = limbs::lanes;
-/// How many numbers of `count` limbs findPassing tests in hardly more time than one; 1 or 8.
+/// How many numbers of `count` limbs indexOfPassing tests in hardly more time than one; 1 or 8.
 [[nodiscard]] std::size_t numbersAtOnce(std::size_t count) noexcept;
 
 /// The index of the first number that is a strong probable prime to each of the first
@@ -18,8 +18,8 @@ inline constexpr std::size_t mostNumbersAtOnce = limbs::lanes;
 ///     may be zero
 /// @param witnessCount with 0 or less, every number passes
 /// @param scratch witnessScratch(count) limbs
-[[nodiscard]] int findPassing(std::span<limbs::Limb const* const> numbers, std::size_t count,
-                              int witnessCount, limbs::Limb* scratch) noexcept;
+[[nodiscard]] int indexOfPassing(std::span<limbs::Limb const* const> numbers, std::size_t count,
+                                 int witnessCount, limbs::Limb* scratch) noexcept;
 std::size_t witnessScratch(std::size_t count) noexcept;
 
 }  // namespace qel::internal

@@ -67,8 +67,8 @@ bool File::HasWriteAccess(char const* path) noexcept {
 bool File::ReadStringFromFile(std::string& text, char const* path) noexcept {
     if (!ExistsAsFile(path))
         return false;
-    text.clear();
     std::ifstream file(path);
+    text.clear();  // not before: the path may be the text's own
     if (!file.good())
         return false;
     file.imbue(std::locale::classic());

@@ -10,24 +10,30 @@ namespace qel {
 
 namespace {
 
-template <int base, typename Integer>
-std::string digitsOf(Integer v) noexcept {
-    // Room for the sign and all digits; those of an int fit into a string without an allocation.
-    std::string text(std::numeric_limits<Integer>::digits10 + 2, '\0');
-    char* const begin = text.data();
-    char* const end = std::to_chars(begin, begin + text.size(), v, base).ptr;
-    text.resize(static_cast<std::size_t>(end - begin));
-    return text;
+/// The digits of an integer, with room for its sign and its terminator.
+template <typename Integer>
+using Digits = std::array<char, std::numeric_limits<Integer>::digits10 + 3>;
+
+template <typename Integer>
+std::string stringOf(Integer v, int base = 10) noexcept {
+    Digits<Integer> digits;
+    return {digits.data(), std::to_chars(digits.data(), digits.end(), v, base).ptr};
+}
+
+/// The caller guarantees the room.
+template <typename Integer>
+void write(Integer v, char* out) noexcept {
+    *std::to_chars(out, out + Digits<Integer>{}.size(), v).ptr = '\0';
 }
 
 }  // namespace
 
 std::string CharFunctions::Int2String(int v) noexcept {
-    return digitsOf<10>(v);
+    return stringOf(v);
 }
 
 void CharFunctions::Int2Char(int v, char* out) noexcept {
-    Copy(out, Int2String(v).c_str());
+    write(v, out);
 }
 
 std::string CharFunctions::UnsignedInt2String(unsigned int v) noexcept {
@@ -35,19 +41,19 @@ std::string CharFunctions::UnsignedInt2String(unsigned int v) noexcept {
 }
 
 void CharFunctions::UnsignedInt2Char(unsigned int v, char* out) noexcept {
-    Copy(out, UnsignedInt2String(v).c_str());
+    Int2Char(static_cast<int>(v), out);
 }
 
 std::string CharFunctions::Long2String(long v) noexcept {
-    return digitsOf<10>(v);
+    return stringOf(v);
 }
 
 void CharFunctions::Long2Char(long v, char* out) noexcept {
-    Copy(out, Long2String(v).c_str());
+    write(v, out);
 }
 
 std::string CharFunctions::Int2Hexa(int v, bool upperCase) noexcept {
-    std::string const digits = digitsOf<16>(static_cast<unsigned int>(v));
+    std::string const digits = stringOf(static_cast<unsigned int>(v), 16);
     return upperCase ? ToUpperCase(digits.c_str()) : digits;
 }
 

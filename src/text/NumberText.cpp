@@ -8,14 +8,6 @@
 #include <limits>
 #include <string_view>
 
-// No product may join the sum it goes into in one fused operation, whatever the machine has. (Only
-// a Clang told -ffp-contract=fast does not listen.)
-#if defined(__clang__)
-#pragma STDC FP_CONTRACT OFF
-#elif defined(__GNUC__)
-#pragma GCC optimize("fp-contract=off")
-#endif
-
 namespace qel {
 
 namespace {
@@ -83,10 +75,17 @@ bool isWhole(char const* s) noexcept {
            && isWholeWithin(CharFunctions::AsciiToDouble(s), Limits::min(), Limits::max());
 }
 
+/// a * b + c with both operations rounded: a compiler may fuse them into one, in the way and on the
+/// machine that it likes, but not across a volatile object, whose value is that of its type.
+double roundedProductPlus(double a, double b, double c) noexcept {
+    double const volatile product = a * b;
+    return product + c;
+}
+
 double hexValue(char const* s) noexcept {
     double value = 0.0;
     for (int digit; (digit = CharFunctions::GetHexDigitValue(*s)) >= 0; ++s)
-        value = value * 16.0 + digit;
+        value = roundedProductPlus(value, 16.0, digit);
     return value;
 }
 
@@ -99,10 +98,10 @@ struct Part {
 
     void add(int digit) noexcept {
         if (inFraction) {
-            value = value + digit * scale;
+            value = roundedProductPlus(digit, scale, value);
             scale = scale * 0.1;
         } else {
-            value = value * 10.0 + digit;
+            value = roundedProductPlus(value, 10.0, digit);
         }
     }
 

@@ -1,8 +1,11 @@
 // Comparing two strings, and the raw copies into a caller's buffer.
 #include "qel/CharFunctions.h"
 
+#include "FoldedComparison.h"
+
 #include <cstring>
-#include <strings.h>
+
+#include <string.h>
 
 namespace qel {
 
@@ -15,7 +18,7 @@ int CharFunctions::Compare(char const* a, char const* b, unsigned int n) noexcep
 }
 
 int CharFunctions::CompareIgnoreCase(char const* a, char const* b) noexcept {
-    return a == nullptr || b == nullptr ? -1 : strcasecmp(a, b);
+    return a == nullptr || b == nullptr ? -1 : internal::compareFolded(a, b);
 }
 
 bool CharFunctions::AreEqual(char const* a, char const* b) noexcept {
@@ -26,19 +29,21 @@ bool CharFunctions::AreEqualIgnoreCase(char const* a, char const* b) noexcept {
     return CompareIgnoreCase(a, b) == 0;
 }
 
-// The caller guarantees the room: neither knows a bound.
-// NOLINTBEGIN(clang-analyzer-security.insecureAPI.strcpy)
+// The caller guarantees the room. All bytes are read before one is written, so that the two may
+// overlap.
+
 void CharFunctions::Copy(char* destination, char const* source) noexcept {
-    std::strcpy(destination, source);
+    std::memmove(destination, source, std::strlen(source) + 1);
 }
 
 void CharFunctions::Copy(char* destination, char const* source, unsigned int n) noexcept {
-    std::strncpy(destination, source, n);
+    std::size_t const length = strnlen(source, n);
+    std::memmove(destination, source, length);
+    std::memset(destination + length, 0, n - length);
 }
 
 void CharFunctions::Append(char* destination, char const* source) noexcept {
-    std::strcat(destination, source);
+    Copy(destination + std::strlen(destination), source);
 }
-// NOLINTEND(clang-analyzer-security.insecureAPI.strcpy)
 
 }  // namespace qel

@@ -43,10 +43,11 @@ std::string Date::DATEMacroToDDMMYYYY(char const* text) noexcept {
 std::string Date::DDMMYYYYToDATEMacro(char const* text) noexcept {
     if (text == nullptr || !IsValidDate(text))
         return {};
-    // A valid text has a year from 100 to 9999: the fields are within their usual ranges.
     std::tm const fields = internal::ConvertMillisecondsToLocalTime(Date(text).msSinceEpoch);
-    std::string const month(monthNames[static_cast<std::size_t>(fields.tm_mon)]);
-    return month + ' ' + twoDigits(fields.tm_mday) + ' '
+    auto const month = static_cast<std::size_t>(fields.tm_mon);
+    if (month >= monthNames.size())
+        return {};
+    return std::string(monthNames[month]) + ' ' + twoDigits(fields.tm_mday) + ' '
            + CharFunctions::Int2String(fields.tm_year + 1900);
 }
 

@@ -29,7 +29,7 @@ std::tm internal::ConvertMillisecondsToLocalTime(long long msSinceEpoch) noexcep
         return breakDownCivilTime(seconds + offsetOf1971_s() + secondsFromDayZeroToEpoch);
     static_assert(sizeof(std::time_t) == sizeof(long long));
     std::time_t const time = static_cast<std::time_t>(seconds);
-    std::tm fields;
+    std::tm fields = {};  // what a failure leaves
     localtime_r(&time, &fields);
     return fields;
 }

@@ -1,12 +1,10 @@
-// A date written as text. The forms with a fixed shape are put together in a buffer on the stack,
-// from one breakdown of the date.
+// A date written as text, from one breakdown of the date.
 #include "qel/Date.h"
 
 #include "DateFields.h"
 
 #include <array>
 #include <charconv>
-#include <cstring>
 
 namespace qel {
 
@@ -20,65 +18,38 @@ char const* dayName(std::tm const& fields) noexcept {
     return dayNames[static_cast<unsigned int>(fields.tm_wday) % dayNames.size()];
 }
 
-/// Text in a buffer that holds the longest date: a day's name, six numbers of up to ten digits and
-/// their separators.
-class DateWriter {
-  public:
-    void put(char c) noexcept { *end++ = c; }
-
-    void putDayName(std::tm const& fields) noexcept {
-        std::memcpy(end, dayName(fields), 3);
-        end += 3;
-    }
-
-    /// Behind the day's name and behind the year.
-    void putGroupEnd(bool compact) noexcept {
-        if (compact)
-            return put('_');
-        std::memcpy(end, " - ", 3);
-        end += 3;
-    }
-
-    void putNumber(unsigned int value) noexcept {
-        end = std::to_chars(end, buffer.data() + buffer.size(), value).ptr;
-    }
-
-    /// Fields are written as unsigned numbers; in far dates they are negative and so have ten
-    /// digits.
-    void putField(int field) noexcept {
-        auto const value = static_cast<unsigned int>(field);
-        if (value > 99)
-            return putNumber(value);
-        put(static_cast<char>('0' + value / 10));
-        put(static_cast<char>('0' + value % 10));
-    }
-
-    void putYear(std::tm const& fields) noexcept {
-        putNumber(static_cast<unsigned int>(fields.tm_year + 1900));
-    }
-
-    [[nodiscard]] std::string text() const noexcept {
-        return std::string(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
-    }
-
-  private:
-    std::array<char, 80> buffer;
-    char* end = buffer.data();
-};
-
-void putDate(DateWriter& out, std::tm const& fields, bool withDayName, bool compact) noexcept {
-    char const separator = compact ? '-' : '/';
-    if (withDayName) {
-        out.putDayName(fields);
-        out.putGroupEnd(compact);
-    }
-    out.putField(fields.tm_mday);
-    out.put(separator);
-    out.putField(fields.tm_mon + 1);
-    out.put(separator);
-    out.putYear(fields);
-    out.putGroupEnd(compact);
+void appendNumber(std::string& text, unsigned int value) {
+    std::array<char, 10> digits;
+    text.append(digits.data(), std::to_chars(digits.data(), digits.end(), value).ptr);
 }
+
+/// Fields are written as unsigned numbers; in far dates they are negative and so have ten digits.
+void appendField(std::string& text, int field) {
+    auto const value = static_cast<unsigned int>(field);
+    if (value <= 9)
+        text += '0';
+    appendNumber(text, value);
+}
+
+void appendYear(std::string& text, std::tm const& fields) {
+    appendNumber(text, static_cast<unsigned int>(fields.tm_year + 1900));
+}
+
+void appendDate(std::string& text, std::tm const& fields, bool withDayName, bool compact) {
+    char const separator = compact ? '-' : '/';
+    char const* const groupEnd = compact ? "_" : " - ";
+    if (withDayName)
+        text.append(dayName(fields)).append(groupEnd);
+    appendField(text, fields.tm_mday);
+    text += separator;
+    appendField(text, fields.tm_mon + 1);
+    text += separator;
+    appendYear(text, fields);
+    text += groupEnd;
+}
+
+/// Enough for a date of ordinary fields, so that the text grows once.
+constexpr std::size_t usualLength = 31;
 
 }  // namespace
 
@@ -88,36 +59,37 @@ std::string Date::GetDayOfWeekName() const noexcept {
 
 std::string Date::ConvertToString(bool withDate, bool withTime, bool withSeconds, bool withDayName,
                                   bool compact) const noexcept {
+    std::string text;
     if (!withDate && !withTime)
-        return {};
+        return text;
     std::tm const fields = internal::ConvertMillisecondsToLocalTime(msSinceEpoch);
-    DateWriter out;
+    text.reserve(usualLength);
     if (withDate)
-        putDate(out, fields, withDayName, compact);
+        appendDate(text, fields, withDayName, compact);
     if (withTime) {
-        out.putField(fields.tm_hour);
-        out.put('h');
-        out.putField(fields.tm_min);
-        out.put('m');
+        appendField(text, fields.tm_hour);
+        text += 'h';
+        appendField(text, fields.tm_min);
+        text += 'm';
         if (withSeconds) {
-            out.putField(static_cast<int>(GetSeconds()));
-            out.put('s');
+            appendField(text, static_cast<int>(GetSeconds()));
+            text += 's';
         }
     }
-    return out.text();
+    return text;
 }
 
 std::string Date::GetDDMMYYYY(char const* separator) const noexcept {
     std::tm const fields = internal::ConvertMillisecondsToLocalTime(msSinceEpoch);
-    DateWriter day;
-    day.putField(fields.tm_mday);
+    std::string text;
+    appendField(text, fields.tm_mday);
     if (separator == nullptr)
-        return day.text();
-    DateWriter month;
-    month.putField(fields.tm_mon + 1);
-    DateWriter year;
-    year.putYear(fields);
-    return day.text() + separator + month.text() + separator + year.text();
+        return text;
+    text += separator;
+    appendField(text, fields.tm_mon + 1);
+    text += separator;
+    appendYear(text, fields);
+    return text;
 }
 
 }  // namespace qel

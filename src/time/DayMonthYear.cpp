@@ -20,41 +20,55 @@ std::string withoutSeparators(char const* text) noexcept {
     return CharFunctions::RemoveAllOccurence(withoutSlashes.c_str(), "\\");
 }
 
-int readField(char const* text, unsigned int start, unsigned int count) noexcept {
+/// The fields as numbers, -1 for one that is none.
+struct DayMonthYear {
+    int day = -1;
+    int month = -1;
+    int year = -1;
+
+    /// Days of the month are not counted: 31 February is valid.
+    [[nodiscard]] bool isValid() const noexcept {
+        return day >= 1 && day <= 31 && month >= 1 && month <= 12 && year >= smallestYear;
+    }
+};
+
+int readField(std::string const& field) noexcept {
+    return CharFunctions::IsUnsignedInt(field.c_str()) ? CharFunctions::GetIntValue(field.c_str())
+                                                       : -1;
+}
+
+DayMonthYear read(char const* text) noexcept {
     std::string const working = withoutSeparators(text);
     if (working.length() != lengthWithout)
-        return -1;
-    std::string const field = CharFunctions::SubStr(working.c_str(), start, count);
-    bool const isReadable = CharFunctions::IsUnsignedInt(field.c_str());
-    return isReadable ? CharFunctions::GetIntValue(field.c_str()) : -1;
+        return {};
+    return {readField(working.substr(0, 2)), readField(working.substr(2, 2)),
+            readField(working.substr(4, 4))};
 }
 
 }  // namespace
 
 int Date::GetDay(char const* text) noexcept {
-    return readField(text, 0, 2);
+    return read(text).day;
 }
 
 int Date::GetMonth(char const* text) noexcept {
-    return readField(text, 2, 2);
+    return read(text).month;
 }
 
 int Date::GetYear(char const* text) noexcept {
-    return readField(text, 4, 4);
+    return read(text).year;
 }
 
 bool Date::IsValidDate(char const* text) noexcept {
-    int const day = GetDay(text);
-    int const month = GetMonth(text);
-    return day >= 1 && day <= 31 && month >= 1 && month <= 12 && GetYear(text) >= smallestYear;
+    return read(text).isValid();
 }
 
 Date::Date(char const* text) noexcept {
-    if (!IsValidDate(text))
-        return;
-    *this =
-        Date(static_cast<unsigned int>(GetYear(text)), static_cast<unsigned int>(GetMonth(text)),
-             static_cast<unsigned int>(GetDay(text)), 12, 0, 0, 0);
+    DayMonthYear const fields = read(text);
+    if (fields.isValid())
+        *this =
+            Date(static_cast<unsigned int>(fields.year), static_cast<unsigned int>(fields.month),
+                 static_cast<unsigned int>(fields.day), 12, 0, 0, 0);
 }
 
 }  // namespace qel

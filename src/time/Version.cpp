@@ -16,6 +16,7 @@ using namespace internal;
 
 namespace {
 
+/// Built once, so that the text of an earlier call stays readable.
 std::string qelVersion;
 
 }  // namespace
@@ -33,8 +34,10 @@ int GetVersionRelease() noexcept {
 }
 
 char const* GetVersion() noexcept {
-    qelVersion = "qel version " + std::to_string(versionMajor) + '.' + std::to_string(versionMinor)
-                 + '.' + std::to_string(versionRelease) + ", build " QEL_BUILD_DATE;
+    if (qelVersion.empty())
+        qelVersion = "qel version " + std::to_string(versionMajor) + '.'
+                     + std::to_string(versionMinor) + '.' + std::to_string(versionRelease)
+                     + ", build " QEL_BUILD_DATE;
     return qelVersion.c_str();
 }
 

@@ -145,4 +145,39 @@ TEST(Division, TheRemainderMayBeTheDivisorWhoseOldValueDivides) {
     EXPECT_TRUE(quotient.isZero());
 }
 
+/// What is left of a dividend that is its own remainder: a zero with the dividend's sign flag.
+void expectFlaggedZero(LargeInteger const& v, int size, bool flag) {
+    EXPECT_EQ(books(v), (Books{size, -1, flag}));
+    EXPECT_TRUE(v.isZero());
+}
+
+TEST(Division, ADividendThatIsItsOwnRemainderBecomesZeroWithItsSignFlag) {
+    for (bool negative : {false, true}) {
+        for (int bits : {0, 31, 32, 100, 543, 544, 20000}) {
+            SCOPED_TRACE(bits);
+            LargeInteger dividend = powerOfTwo(bits);
+            dividend.setNegative(negative);
+            // From a capacity of 17 words on, a reset releases the buffer.
+            int const size = books(dividend).size < 17 ? books(dividend).size : 4;
+
+            LargeInteger byAnother = dividend;
+            LargeInteger divisor(-3);
+            byAnother.divideBy(divisor, byAnother);
+            expectFlaggedZero(byAnother, size, negative);
+            EXPECT_EQ(divisor, LargeInteger(-3));
+
+            LargeInteger byItself = dividend;
+            byItself.divideBy(byItself, byItself);
+            expectFlaggedZero(byItself, size, negative);
+
+            LargeInteger byZero = dividend;
+            byZero.divideBy(negativeZero(), byZero);
+            expectFlaggedZero(byZero, size, false);
+        }
+    }
+    LargeInteger zero = negativeZero();
+    zero.divideBy(LargeInteger(5), zero);
+    expectFlaggedZero(zero, 4, false);
+}
+
 }  // namespace

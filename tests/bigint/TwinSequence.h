@@ -367,10 +367,10 @@ class Sequence {
         trace = "gcd of " + describe(a) + " and " + describe(b);
         if (subtractions(a.fast, b.fast, limit) >= limit)
             return {};
-        LargeInteger const fast = a.fast.findGreatestCommonDivisor(b.fast);
-        plain::LargeInteger const plain = a.plain.findGreatestCommonDivisor(b.plain);
-        if (fast.toString(16) != plain.toString(16) || books(fast).highestBit != plain.highestBit)
-            return fast.toString(16) + ", not " + plain.toString(16);
+        std::string const fault = difference(a.fast.findGreatestCommonDivisor(b.fast),
+                                             a.plain.findGreatestCommonDivisor(b.plain));
+        if (!fault.empty())
+            return fault;
         if (std::abs(a.fast.getHighestBit() - b.fast.getHighestBit()) > 10 || b.fast.isZero())
             return {};
         return simpleGcdStep(a, b);

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
 #include <algorithm>
 #include <vector>
 
@@ -41,7 +43,8 @@ TEST(PrimeSearch, NullSeedsStartFromTheForcedWidth) {
     EXPECT_EQ(prime, PrimesNumber::createProbablePrime(100, witnesses, &unused, 0));
     // The first block starts 2 * 1024 above the start, which is 2^99 here.
     EXPECT_GT(prime, (LargeInteger(1) << 99) + LargeInteger(2048));
-    EXPECT_EQ(PrimesNumber::createProbablePrime(100, witnesses, nullptr, -5), prime);
+    for (int none : {-1, -5, INT_MIN + 1, INT_MIN})
+        EXPECT_EQ(PrimesNumber::createProbablePrime(100, witnesses, &unused, none), prime) << none;
 }
 
 TEST(PrimeSearch, SmallWidthsComeOutWider) {

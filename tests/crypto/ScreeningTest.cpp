@@ -1,7 +1,7 @@
 // Which candidates are struck: by the documented divisors, and by factors that make the test fail.
 #include "crypto/Screening.h"
 
-#include "crypto/NumberLimbs.h"
+#include "bigint/Representation.h"
 #include "model/PlainPrimes.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ class Walk {
 
   private:
     Limb const* filled(LargeInteger const& base) {
-        copyLimbs(start.data(), count, base);
+        loadLimbs(start.data(), count, Representation::magnitude(base));
         return start.data();
     }
 
@@ -71,7 +71,7 @@ std::vector<int> documentedDivisors() {
 
 bool isStruck(LargeInteger const& n) {
     std::vector<Limb> limbs(static_cast<std::size_t>(n.getHighestBit()) / 64 + 2);
-    copyLimbs(limbs.data(), limbs.size(), n);
+    loadLimbs(limbs.data(), limbs.size(), Representation::magnitude(n));
     return isStruckByDivisors(limbs.data(), limbs.size());
 }
 

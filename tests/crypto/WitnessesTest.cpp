@@ -11,7 +11,7 @@
 namespace {
 
 using namespace limb_test;
-using qel::internal::findPassing;
+using qel::internal::indexOfPassing;
 using qel::internal::numbersAtOnce;
 using qel::internal::witnessScratch;
 using qel::limbs::Limb;
@@ -32,7 +32,7 @@ int firstPassing(std::size_t first, std::size_t end, int witnessCount) {
     for (std::size_t i = first; i < end; ++i)
         candidates.push_back(numbers[i].data());
     std::vector<Limb> scratch(witnessScratch(2));
-    return findPassing(candidates, 2, witnessCount, scratch.data());
+    return indexOfPassing(candidates, 2, witnessCount, scratch.data());
 }
 
 TEST(Witnesses, RefuseWhatPassesWithTheFirstOnesOnly) {

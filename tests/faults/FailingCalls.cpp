@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <ctime>
 
 #include <dlfcn.h>
 #include <sys/stat.h>
@@ -87,6 +88,14 @@ int fclose(FILE* file) {
         counting = true;
     }
     return closed;
+}
+
+/// One that fails may have written some fields already: here a month that has no name.
+tm* localtime_r(time_t const* time, tm* fields) noexcept {
+    tm* const result = passOn("localtime_r", static_cast<tm*>(nullptr), time, fields);
+    if (result == nullptr)
+        fields->tm_mon = 12;
+    return result;
 }
 
 ssize_t read(int descriptor, void* buffer, std::size_t size) {

@@ -1,13 +1,11 @@
 // Long division, bit by bit, restoring; and the quotient and remainder operators.
 #include "PlainInteger.h"
 
-#include <cassert>
 #include <utility>
 
 namespace plain {
 
 void LargeInteger::divideBy(LargeInteger const& divisor, LargeInteger& remainder) noexcept {
-    assert(this != &remainder && "divideBy: the remainder must not be the dividend");
     int const divisorTop = divisor.getHighestBit();
     int const top = getHighestBit();
     if (top < 0 || divisorTop < 0) {

@@ -23,9 +23,12 @@ TEST(Version, BannerNamesTheVersionAndEndsWithTheBuildDate) {
     EXPECT_TRUE(qel::Date::IsValidDate(digits.c_str())) << banner;
 }
 
-TEST(Version, EveryCallGivesTheSameText) {
-    std::string const first = qel::GetVersion();
-    EXPECT_EQ(first, qel::GetVersion());
+TEST(Version, TheTextOfAnEarlierCallStaysReadable) {
+    char const* const first = qel::GetVersion();
+    std::string const copy = first;
+    char const* const second = qel::GetVersion();
+    EXPECT_EQ(copy, first);
+    EXPECT_EQ(copy, second);
 }
 
 }  // namespace

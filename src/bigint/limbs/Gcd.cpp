@@ -6,7 +6,8 @@
 // Euclid's steps give (A, B) = M (A', B') for a matrix M of non-negative entries and determinant 1.
 // Where A' and B' are at least 2^64, every entry is at most A / 2^64 < 2^64, fits a limb, and
 // (a', b') = M^-1 (a, b) differs from 2^k (A', B') by less than 2^64 2^k: both stay non-negative.
-// A matrix of determinant 1 keeps the gcd, whatever the true quotients are.
+// A matrix of determinant 1 keeps the gcd. It is a product of subtractions, each of which leaves
+// both numbers positive, by the same bound: so they are those that repeated subtraction takes.
 //
 // The 128 bits are taken in two halves in the same way, each by Euclid on single limbs.
 #include "Gcd.h"
@@ -26,6 +27,9 @@ struct Matrix {
     Limb m11 = 1;
 
     [[nodiscard]] bool isIdentity() const noexcept { return m01 == 0 && m10 == 0; }
+    /// Subtracting b adds to the right column, subtracting a to the left one: the greater column is
+    /// the last one.
+    [[nodiscard]] bool decreasedSecondLast() const noexcept { return m00 >= m01 && m10 >= m11; }
 };
 
 Matrix operator*(Matrix const& x, Matrix const& y) noexcept {
@@ -171,6 +175,8 @@ class Reduction {
 
     Side a;
     Side b;
+    /// For when both are equal, which only a matrix may leave them.
+    bool decreasedSecondLast = false;
 
   private:
     void step() noexcept {
@@ -182,14 +188,16 @@ class Reduction {
                 leadingSteps(leading(a.number, count, shift), leading(b.number, count, shift));
             if (!m.isIdentity()) {
                 applyInverse(a.number, b.number, count, m);
+                decreasedSecondLast = m.decreasedSecondLast();
                 if (a.cofactor != nullptr)
                     growCofactors(m);
                 return;
             }
         }
-        bool const aIsLess = isLess(a, b);
-        Side& larger = aIsLess ? b : a;
-        Side const& smaller = aIsLess ? a : b;
+        int const order = compareSides();
+        bool const reduceSecond = order < 0 || (order == 0 && decreasedSecondLast);
+        Side& larger = reduceSecond ? b : a;
+        Side const& smaller = reduceSecond ? a : b;
         divide(larger, smaller);
     }
 
@@ -200,8 +208,10 @@ class Reduction {
         cofactorUsed = std::max(significant(a.cofactor, count), significant(b.cofactor, count));
     }
 
-    static bool isLess(Side const& x, Side const& y) noexcept {
-        return x.count != y.count ? x.count < y.count : compare(x.number, y.number, x.count) < 0;
+    [[nodiscard]] int compareSides() const noexcept {
+        if (a.count != b.count)
+            return a.count < b.count ? -1 : 1;
+        return compare(a.number, b.number, a.count);
     }
 
     /// larger %= smaller, for steps that the leading bits cannot decide.
@@ -292,14 +302,19 @@ std::size_t gcdScratch(std::size_t count) noexcept {
     return 3 * count + 2;
 }
 
-void gcd(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noexcept {
+bool gcd(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noexcept {
     Reduction reduction({a, count, nullptr}, {b, count, nullptr}, 0, scratch);
     reduction.run();
-    Side const& longer = reduction.a.count != 0 ? reduction.a : reduction.b;
+    bool inSecond = reduction.a.count == 0;
+    Side const& longer = inSecond ? reduction.b : reduction.a;
     std::copy(longer.number, longer.number + longer.count, out);
     std::fill(out + longer.count, out + count, Limb{0});
-    if (reduction.a.count == 1 && reduction.b.count == 1)
-        out[0] = gcdOfLimbs(a[0], b[0]).gcd;
+    if (reduction.a.count == 1 && reduction.b.count == 1) {
+        LimbGcd const last = gcdOfLimbs(a[0], b[0]);
+        out[0] = last.gcd;
+        inSecond = a[0] == b[0] ? !reduction.decreasedSecondLast : last.negative;
+    }
+    return inSecond;
 }
 
 // Both cofactors with a limb to spare, the modulus, and a division step.

@@ -7,7 +7,11 @@ namespace qel::limbs {
 
 /// out[0, count) = the gcd of a and b, both of `count` limbs with zeros on top where one is
 /// shorter; that of a number and zero is the number. Both operands are used up.
-void gcd(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noexcept;
+///
+/// True when it is left in b once the smaller of the two has been subtracted from the larger, each
+/// time in place, until one of them is zero. Equal ones make that zero which was decreased last, a
+/// if neither was.
+bool gcd(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noexcept;
 std::size_t gcdScratch(std::size_t count) noexcept;
 
 /// out[0, count) = the inverse of v modulo m, for 1 < v < m, both of `count` limbs with zeros on

@@ -1,0 +1,32 @@
+// The comparison of macOS gives what the C library's gives here, in the "C" locale.
+#include "text/FoldedComparison.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include <strings.h>
+
+namespace {
+
+using qel::internal::compareFolded;
+
+TEST(FoldedComparison, OfEveryPairOfBytesIsTheCLibrarys) {
+    for (int left = 0; left < 256; ++left) {
+        for (int right = 0; right < 256; ++right) {
+            std::string const a = {'x', static_cast<char>(left), '\0'};
+            std::string const b = {'X', static_cast<char>(right), '\0'};
+            EXPECT_EQ(compareFolded(a.c_str(), b.c_str()), strcasecmp(a.c_str(), b.c_str()))
+                << left << " and " << right;
+        }
+    }
+}
+
+TEST(FoldedComparison, EndsWithTheShorterText) {
+    EXPECT_EQ(compareFolded("", ""), 0);
+    EXPECT_EQ(compareFolded("abc", "ABC"), 0);
+    EXPECT_EQ(compareFolded("abC", "AB"), 'c');
+    EXPECT_EQ(compareFolded("", "A"), -'a');
+}
+
+}  // namespace
