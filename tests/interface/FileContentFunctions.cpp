@@ -72,10 +72,11 @@ std::string contentAndPermissions(Results& results, std::string const& path) {
 }
 
 void writeTexts(Results& results) {
+    Scratch const scratch;
+    std::string const path = scratch.path("file");
     for (bool const append : {false, true}) {
         for (std::string const& text : texts()) {
-            Scratch const scratch;
-            std::string const path = scratch.path("file");
+            unlink(path.c_str());
             expectResult(results, File::WriteStringToFile(text, path.c_str(), append), true, text,
                          append);
             expectResult(results, contentAndPermissions(results, path), text, text, append);

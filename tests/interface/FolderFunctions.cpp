@@ -27,12 +27,14 @@ bool isFolder(std::string const& path) {
 /// every name.
 void makeFolders(Results& results) {
     for (bool const relative : {false, true}) {
+        Scratch const scratch;
+        int number = 0;
         for (std::string const& name : texts()) {
-            Scratch const scratch;
+            std::string const front = std::to_string(number++);
             std::string const path =
-                (relative ? scratch.relativePath("x") : scratch.path("x")) + '/' + name;
+                (relative ? scratch.relativePath(front) : scratch.path(front)) + '/' + name;
             bool const made = Folder::MakeDirectory(path.c_str());
-            results.add("", name, relative, made, permissionsOf(scratch.path("x")),
+            results.add("", name, relative, made, permissionsOf(scratch.path(front)),
                         permissionsOf(path));
             EXPECT_TRUE(!made || permissionsOf(path) != -1) << path;
             expectResult(results, Folder::MakeDirectory(path.c_str()), made || isFolder(path), name,
