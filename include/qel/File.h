@@ -102,14 +102,15 @@ class File {
     ///
     /// False for a folder and where there is nothing, with `text` as it was, and for a file that
     /// does not open, with `text` empty. True with an empty `text` when there is no word. White
-    /// space is that of the "C" locale. `path` must not point into `text`, which is cleared first.
+    /// space is that of the "C" locale. `path` may point into `text`.
     [[nodiscard]] static bool ReadStringFromFile(std::string& text, char const* path) noexcept;
     /// Refuses a new file named without a folder, as `HasWriteAccess` does: "f" must be "./f".
     ///
     /// Appends the bytes of `text`, or else writes them into a new file in the old one's place: an
     /// existing file, or link to one, is deleted first. False without `HasWriteAccess`, when the
     /// old file cannot be deleted, and when the file does not open. Once it is open the result is
-    /// true, even if the disk fills up.
+    /// true, even if the disk fills up. A new file has the permissions that the process's mask
+    /// leaves of 0666.
     [[nodiscard]] static bool WriteStringToFile(std::string const& text, char const* path,
                                                 bool append) noexcept;
 

@@ -5,6 +5,7 @@
 
 #include "qel/CharFunctions.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace interface_test {
@@ -89,14 +90,17 @@ std::vector<Function> functionsOfIntegers() {
     };
 }
 
-std::string writtenWithFormat(double v, char const* format) {
-    return writtenBy<double, char const*>(&CharFunctions::Float2Char, printed(format, v).size() + 1,
-                                          v, format);
-}
-
-std::string writtenWithFormat(float v, char const* format) {
-    return writtenBy<float, char const*>(&CharFunctions::Float2Char, printed(format, v).size() + 1,
-                                         v, format);
+/// The place of the text may be that of the format; both ways must give the same.
+template <typename Number>
+std::string writtenWithFormat(Number v, char const* format) {
+    std::string const room = printed(format, v);
+    std::string const text =
+        writtenBy<Number, char const*>(&CharFunctions::Float2Char, room.size() + 1, v, format);
+    std::string place = format;
+    place.resize(std::max(room.size(), place.size()) + 1);
+    CharFunctions::Float2Char(v, place.data(), place.data());
+    EXPECT_EQ(place.c_str(), text) << "in the place of " << format;
+    return text;
 }
 
 }  // namespace

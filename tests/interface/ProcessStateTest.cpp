@@ -10,6 +10,7 @@
 namespace {
 
 using namespace interface_test;
+using qel::Date;
 
 std::string resultsOf(Function const& function, int errorNumber) {
     Results results;
@@ -74,6 +75,40 @@ TEST_P(ProcessState, IsFollowedByTheFunctionsThatSaySoAndByNoOther) {
 
 std::string testName(testing::TestParamInfo<State> const& info) {
     return nameOf(info.param);
+}
+
+/// Paris of today, without the system's data.
+constexpr char const* centralEurope = "CET-1CEST,M3.5.0,M10.5.0/3";
+
+TEST(TimeZoneVariable, IsSeenAtOnceWhenADateIsBuiltFromFields) {
+    Surroundings const surroundings;
+    EXPECT_EQ(Date(2012, 11, 21, 12, 0, 0, 0).GetMillisecondsSinceEpoch(), 1353499200000);
+    Variable const changed("TZ", "XYZ-13");
+    EXPECT_EQ(Date(2012, 11, 21, 12, 0, 0, 0).GetMillisecondsSinceEpoch(), 1353452400000);
+}
+
+TEST(TimeZoneVariable, IsSeenByTheFieldsOnceTheCLibraryHasReadIt) {
+    Surroundings const surroundings;
+    Date const date(1353499200000);
+    EXPECT_EQ(date.GetHours(), 12U);
+    Variable const changed("TZ", "XYZ-13");
+    tzset();
+    EXPECT_EQ(date.GetHours(), 1U);
+    EXPECT_EQ(date.GetDay(), 22U);
+}
+
+TEST(TimeZoneVariable, LeavesAnHourThatComesTwiceToTheCLibrary) {
+    Surroundings const surroundings;
+    TimeZone const zone(centralEurope);
+    // The C library may take the one that suits the date that it was asked for before.
+    for (unsigned int const month : {7U, 12U}) {
+        EXPECT_EQ(Date(2012, month, 1, 12, 0, 0, 0).GetHours(), 12U);
+        Date const twice(2012, 10, 28, 2, 30, 0, 0);
+        EXPECT_EQ(twice.GetHours(), 2U);
+        EXPECT_EQ(twice.GetMinutes(), 30U);
+        EXPECT_TRUE(twice == Date(1351384200000) || twice == Date(1351387800000))
+            << twice.GetMillisecondsSinceEpoch();
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(PublicFunctions, ProcessState, testing::ValuesIn(allStates), testName);

@@ -74,6 +74,8 @@ void copyCountedIntoOthers(Results& results, unsigned int n) {
         CharFunctions::Copy(buffer.data(), source.c_str(), n);
         expectResult(results, asText(buffer), exactly(source, n) + '.', source, n);
     }
+    if (n == 0)
+        return;
     // No byte behind the n-th is read either.
     Buffer const unterminated(n, 'u');
     Buffer buffer(n, '.');
