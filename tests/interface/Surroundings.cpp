@@ -67,7 +67,7 @@ std::string bytesOf(std::string const& path) {
 
 int permissionsOf(std::string const& path) {
     struct stat status = {};
-    return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : -1;
+    return stat(path.c_str(), &status) == 0 ? static_cast<int>(status.st_mode & 07777) : -1;
 }
 
 }  // namespace interface_test
