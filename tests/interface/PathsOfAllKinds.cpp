@@ -15,6 +15,7 @@ PathsOfAllKinds::PathsOfAllKinds() : paths_(texts()) {
     filesystem::create_symlink("folder", scratch_.path("link to folder"));
     filesystem::create_symlink("nothing", scratch_.path("dangling"));
     makeSocket(scratch_.path("socket"));
+    filesystem::permissions(scratch_.path("socket"), filesystem::perms(0755));
     for (std::string const name :
          {"file", "file/", "file/x", "folder", "folder/", "folder/.", "folder/new", "link",
           "link to folder", "dangling", "socket", "nothing", "r\xC3\xA9sum\xC3\xA9.\xC3\xA9"}) {
