@@ -14,16 +14,14 @@ namespace {
 
 using qel::CharFunctions;
 
-/// The last has a width that no int holds: the C library refuses it.
-constexpr std::array<char const*, 10> formats = {
-    "%f", "%.2f", "%.0f", "%g", "%.17g", "%e", "%a", "[%+012.3f]", "%.400f", "%2147483648f"};
+constexpr std::array<char const*, 9> formats = {"%f", "%.2f", "%.0f",       "%g",    "%.17g",
+                                                "%e", "%a",   "[%+012.3f]", "%.400f"};
 
-/// "" for what is refused.
 template <typename Number>
 std::string printed(char const* format, Number v) {
     std::vector<char> text(2000);
-    int const length = std::snprintf(text.data(), text.size(), format, v);
-    return length < 0 ? "" : text.data();
+    std::snprintf(text.data(), text.size(), format, v);
+    return text.data();
 }
 
 /// Everything that the function wrote, and one byte more.

@@ -89,7 +89,8 @@ std::vector<Setting> settingsOf(State state, Surroundings const& surroundings,
         return {setting<TimeZone>("13:45 hours ahead", "XYZ-13:45"),
                 setting<TimeZone>("a day ahead", "XYZ-24")};
     case State::fileCreationMask:
-        return {setting<FileCreationMask>("0777", 0777U), setting<FileCreationMask>("0", 0U)};
+        return {setting<FileCreationMask>("0777", mode_t{0777}),
+                setting<FileCreationMask>("0", mode_t{0})};
     case State::workingDirectory:
         return {setting<WorkingDirectory>("elsewhere", surroundings.elsewhere())};
     case State::homeVariable:
