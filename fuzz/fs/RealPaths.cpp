@@ -10,6 +10,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include <unistd.h>
+
 using namespace fuzz;
 namespace filesystem = std::filesystem;
 

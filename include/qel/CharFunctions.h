@@ -12,8 +12,9 @@ namespace qel {
 ///
 /// All text is 8-bit. Letters, digits and case are ASCII only; bytes 128 to 255 are neither
 /// letters nor digits and have no case. A null pointer is checked only where a function says so;
-/// elsewhere it is the caller's fault and the call need not return. Every function is reentrant,
-/// and takes time linear in the lengths of its texts unless it searches for one in another.
+/// elsewhere it is the caller's fault and the call need not return. Texts are below 2 GiB. Every
+/// function is reentrant, and takes time linear in the lengths of its texts unless it searches for
+/// one in another.
 class CharFunctions {
   public:
     /// There are no instances: every function is static.
@@ -157,11 +158,11 @@ class CharFunctions {
     /// Replaces from the end, and what a replacement brings about is replaced too:
     /// `Replace("aab", "ab", "b")` is "b".
     ///
-    /// The last occurrence of `old` in the whole text is replaced until there is none. Once it
-    /// finds something to replace, a `replacement` that contains `old` never returns (an assert
-    /// says so first): memory runs out, or nothing changes for ever where the two are equal. Some
-    /// others that bring `old` about again and again run out of memory too ("ab" by "bbaa" in
-    /// "abb"). The time taken is linear in the length of `s` and of all replacements made.
+    /// The last occurrence of `old` in the whole text is replaced until there is none. The time
+    /// taken is linear in the lengths of `s` and `old` and of all replacements made.
+    /// @pre The replacement does not contain `old`, unless `s` does not either; otherwise it is
+    /// replaced for ever (an assert says so first), or until memory runs out. So are some others
+    /// that bring `old` about again and again ("ab" by "bbaa" in "abb").
     [[nodiscard]] static std::string Replace(char const* s, char const* old,
                                              char const* replacement) noexcept;
     /// Replaces the first occurrence only, once.
@@ -189,7 +190,7 @@ class CharFunctions {
     [[nodiscard]] static std::string AsciiToHexaString(char const* s, bool upperCase) noexcept;
     /// Reads two digits, of either case, a byte; "" when the length is odd or a byte is no digit.
     ///
-    /// Undoes `AsciiToHexaString` only where every byte lies between 16 and 127.
+    /// Undoes `AsciiToHexaString` only where every byte is one of 16 to 127.
     [[nodiscard]] static std::string HexaStringToAscii(char const* hex) noexcept;
 
     /// @}
@@ -215,8 +216,9 @@ class CharFunctions {
     /// fraction adds its digit times a power of 0.1, so that "0.3" is 3 * 0.1.
     ///
     /// The last sign of mantissa or exponent counts, wherever it stands: "1-2" is -12. Reading
-    /// stops at the first byte that fits in nowhere: "12abc" is 12, "abc" and " 5" are 0. A huge
-    /// exponent gives infinity; an infinite factor times a zero mantissa is not a number.
+    /// stops at the first byte that fits in nowhere: "12abc" is 12, "abc" and " 5" are 0; a later
+    /// sign or point is no stop: "1.2.3" is 1.23. A mantissa or exponent too large gives infinity;
+    /// infinity times zero, either way round, is not a number.
     [[nodiscard]] static double AsciiToDouble(char const* s) noexcept;
     /// `AsciiToDouble` rounded to single precision; infinity beyond its range.
     [[nodiscard]] static float AsciiToFloat(char const* s) noexcept;
@@ -253,10 +255,10 @@ class CharFunctions {
     static void Long2Char(long v, char* out) noexcept;
     /// The 32 bits of `v` as hexadecimal digits without leading zeros: -1 gives "ffffffff".
     [[nodiscard]] static std::string Int2Hexa(int v, bool upperCase) noexcept;
-    /// `v` as `printf` writes it with `format`, which holds one conversion of a double and must not
-    /// be null. The text may have any length; a format that the C library refuses gives "".
-    /// The decimal point is that of the C library's locale, and the last digit follows the rounding
-    /// mode of the thread.
+    /// `v` as `printf` writes it with `format`, which holds one conversion of a double without `*`
+    /// or `L` and must not be null. The text may have any length; a format that the C library
+    /// refuses gives "". The decimal point is that of the C library's locale, and the last digit
+    /// follows the rounding mode of the thread.
     [[nodiscard]] static std::string Float2String(double v, char const* format) noexcept;
     /// As `Float2String`; as many bytes as its text has, and a terminator.
     static void Float2Char(double v, char* out, char const* format) noexcept;

@@ -33,8 +33,9 @@ namespace qel {
 /// an hour that comes twice, when daylight saving ends, the C library chooses the one or the other,
 /// on some systems by the date that it was asked for before.
 ///
-/// One date may be used by one thread at a time. The functions that read the current time share
-/// the state of one clock and are to be called from one thread at a time.
+/// One date may be read by several threads at once, or changed by one; no other thread may change
+/// the environment while fields are converted. The functions that read the current time share the
+/// state of one clock and are to be called from one thread at a time.
 class Date {
   public:
     /// @name Construction
@@ -49,10 +50,12 @@ class Date {
     /// The instant named by the fields, none of which is checked: local time in the years 1971 to
     /// 2037, UTC in every other.
     ///
-    /// For the years 1971 to 2037 the C library carries what is out of range; an instant before the
-    /// epoch becomes the epoch itself, without `millisecond`. For every other year, 1970 included,
-    /// days, hours and the smaller fields are carried, months 0, 13 and 14 too, while a month of 15
-    /// or more gives a meaningless date.
+    /// For the years 1971 to 2037 the C library carries what is out of range, amounts of 2^31 or
+    /// more as negative ones; an instant before the epoch becomes the epoch itself, without
+    /// `millisecond`. For every other year, 1970 included, days, hours and the smaller fields are
+    /// carried, as long as hours, minutes and seconds make less than 2^32 seconds together and the
+    /// date lies before June 5874898; months 0, 13 and 14 are too, while a month of 15 or more
+    /// gives a meaningless date.
     /// @param year the full year, as 2012
     /// @param month 1 to 12
     /// @param day 1 to 31
@@ -62,7 +65,8 @@ class Date {
     /// @param millisecond 0 to 999; larger amounts are added just so
     Date(unsigned int year, unsigned int month, unsigned int day, unsigned int hour,
          unsigned int minute, unsigned int second, unsigned int millisecond) noexcept;
-    /// Noon of the day that a day-month-year text names; the epoch when IsValidDate refuses it.
+    /// Noon of the day that a day-month-year text names, local from 1971 to 2037 and UTC in other
+    /// years; the epoch when IsValidDate refuses it.
     ///
     /// An impossible day is carried: "31/02/2012" is 2 March 2012.
     /// @param text must not be null.
@@ -113,9 +117,11 @@ class Date {
 
     /// @}
     /// @name Local calendar fields
-    /// Each call breaks the count down anew, which costs one call of the C library. Before the
-    /// start of Julian day 0, 24 November 4714 BC, fields come out below zero, as their unsigned
-    /// patterns. Counts beyond the year 1465102 also give meaningless fields.
+    /// Each call breaks the count down anew, which costs one call of the C library. Milliseconds
+    /// are cut off toward zero: a date before the epoch reads as the next whole second. Before the
+    /// start of Julian day 0, 24 November 4714 BC, the weekday, the hours and the minutes come out
+    /// below zero, as their unsigned patterns; before 1 March 4801 BC the day and the month are
+    /// meaningless too, and from 19 October 1465102 on all fields are.
     /// @{
 
     /// The minute, 0 to 59.
@@ -156,7 +162,8 @@ class Date {
     /// @}
     /// @name Day-month-year text
     /// Eight characters, day, month and year without separators, or ten with two that are slashes
-    /// or backslashes, in any places. No text may be null.
+    /// or backslashes, in any places. A field counts where CharFunctions::IsUnsignedInt accepts it,
+    /// and is what GetIntValue reads of it: "5." is 5, "1e03" is 1. No text may be null.
     /// @{
 
     /// The day of a day-month-year text; -1 when it cannot be read. No range is checked.
@@ -183,6 +190,10 @@ class Date {
     /// Writes a day-month-year text like `__DATE__`, but with a zero, not a space, before a day
     /// below 10: "01/11/2012" gives "Nov 01 2012". Empty for null and for what IsValidDate refuses;
     /// an impossible day is carried.
+    ///
+    /// Outside 1971 to 2037 the day may be the next or the one before where local time was 12 hours
+    /// or more from UTC in 1971. A year below 1000 or above 9999 gives a text that
+    /// DATEMacroToDDMMYYYY refuses.
     [[nodiscard]] static std::string DDMMYYYYToDATEMacro(char const* text) noexcept;
 
     /// @}
@@ -190,6 +201,8 @@ class Date {
     /// @{
 
     /// Goes back to 0 every 2^32 ms, about 49.7 days: milliseconds since the system started.
+    ///
+    /// On Linux, time that the system sleeps is not counted, and GetCurrentSystemTime lags by it.
     [[nodiscard]] static unsigned int GetMillisecondsSinceStartup() noexcept;
     /// Does not follow a wall clock that is set while the program runs: milliseconds since the
     /// epoch, kept steady by the counter of GetMillisecondsSinceStartup.

@@ -48,7 +48,7 @@ class File {
     [[nodiscard]] static std::string AppendStringBeforeExtension(char const* path,
                                                                  char const* text) noexcept;
     /// `path` with a dot and `extension`, which may bring its dot; `path` itself if it has that
-    /// extension already, in any case. A dot at the end of `path` is not doubled.
+    /// extension already, in upper or lower case. A dot at the end of `path` is not doubled.
     [[nodiscard]] static std::string AppendExtension(char const* path,
                                                      char const* extension) noexcept;
     /// True when `GetExtension(path)` is `extension`, whose one leading dot does not count:
@@ -72,7 +72,8 @@ class File {
     /// @}
     /// @name Files
     /// Relative paths go from the working directory. Links are followed; only `Delete` takes one
-    /// itself.
+    /// itself. What the system does not let the process reach counts as not there; rights are
+    /// those of the real user.
     /// @{
 
     /// True for anything that is there, files and folders alike; false for a dangling link.
@@ -103,11 +104,15 @@ class File {
     /// False for a folder and where there is nothing, with `text` as it was, and for a file that
     /// does not open, with `text` empty. True with an empty `text` when there is no word. White
     /// space is that of the "C" locale. `path` may point into `text`.
+    ///
+    /// A pipe that stays open is waited for as long as the standard library's stream waits: until
+    /// white space ends the word with libstdc++, until 4096 bytes have come with libc++.
     [[nodiscard]] static bool ReadStringFromFile(std::string& text, char const* path) noexcept;
     /// Refuses a new file named without a folder, as `HasWriteAccess` does: "f" must be "./f".
     ///
     /// Appends the bytes of `text`, or else writes them into a new file in the old one's place: an
-    /// existing file, or link to one, is deleted first. False without `HasWriteAccess`, when the
+    /// existing file, or link to one, is deleted first. The new file has the permissions of any new
+    /// file; other names of the old one keep its text. False without `HasWriteAccess`, when the
     /// old file cannot be deleted, and when the file does not open. Once it is open the result is
     /// true, even if the disk fills up. A new file has the permissions that the process's mask
     /// leaves of 0666.

@@ -22,8 +22,9 @@ class Folder {
 
     /// The answer of `File::IsFolder`: sockets and block devices included.
     [[nodiscard]] static bool IsFolder(char const* path) noexcept;
-    /// Makes every missing folder on the way, and fails for a path with a trailing slash though it
-    /// makes that folder too. For an existing folder such a path is fine.
+    /// Makes every missing folder on the way. Fails for a path with a trailing slash, though it
+    /// makes that folder too; and behind a missing folder for an empty part, "." or "..", without
+    /// making what follows. For an existing folder such a path is fine.
     ///
     /// Missing folders are those of `File::GetParentFolder`, from the top down, so that a
     /// backslash makes a folder as well. True when all were made, or `path` is a folder already.
@@ -35,7 +36,8 @@ class Folder {
     static bool SetCurrentWorkingDirectory(char const* path) noexcept;
     /// The working directory; "" when it has been deleted or takes 1024 bytes or more.
     [[nodiscard]] static std::string GetCurrentWorkingDirectory() noexcept;
-    /// The environment variable "HOME" as it stands, even empty; "./" when it is not set.
+    /// The environment variable "HOME" as it stands, even empty; "./" when it is not set. No other
+    /// thread may change the environment meanwhile.
     [[nodiscard]] static std::string GetUserHomeDirectory() noexcept;
 
     /// @}
@@ -58,8 +60,9 @@ class Folder {
     /// "Disk:/Users/me" gives "/Volumes/Disk/Users/me". Without a ":" the text comes twice: "Disk"
     /// gives "/Volumes/DiskDisk". A result of 4096 bytes or more gives "".
     [[nodiscard]] static std::string TranslateAbsolutePath(char const* path) noexcept;
-    /// The canonical path; `path` itself, and no failure, where nothing exists or where the
-    /// canonical path has 1024 bytes or more.
+    /// The canonical path; `path` itself, and no failure, where nothing exists, for a loop of
+    /// links, where permission or memory is wanting, or where the canonical path has 1024 bytes or
+    /// more.
     ///
     /// For a `path` that begins with `~` the home folder, and what follows the first `~` of that
     /// text: "~user" is the home folder followed by "user", and need not exist. A real path

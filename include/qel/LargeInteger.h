@@ -22,17 +22,19 @@ struct Representation;  // of the library's own sources
 /// reads as 0, and writing it does nothing.
 ///
 /// No operation throws or reports an error. When memory runs out, or when a value would need a
-/// bit index above the largest `int`, the process ends with one line on the standard error.
+/// bit index above the largest `int`, the process ends, with one line on the standard error (with
+/// the runtime's own where a text found no memory).
 ///
 /// An operand may be the object itself: `x += x`, `x /= x` and the like count their operands as
-/// they were on entry. One value may be used by one thread at a time; distinct values are
-/// independent.
+/// they were on entry. One value may be read by several threads at once, or changed by one;
+/// distinct values are independent.
 ///
 /// Cost: sums, comparisons, shifts and bit ranges are linear in the width of the values in use.
 /// Products are quadratic up to a few thousand bits and nearly linear in the end, and quotients,
-/// remainders and decimal texts follow them at a small factor. A modular power takes one product
-/// for each bit of the exponent, a greatest common divisor or an inverse is quadratic. One bit is
-/// read or cleared in the same time at any width.
+/// remainders and decimal texts follow them at a small factor. A modular power takes about one
+/// product and one remainder for each bit of the exponent, a greatest common divisor or an inverse
+/// is quadratic. One bit is read or cleared in the same time at any width. Where high bits were
+/// cleared or cancelled, the old width counts until a copy or an operation that looks for the top.
 class LargeInteger {
   public:
     /// @name Construction and storage
@@ -65,8 +67,11 @@ class LargeInteger {
     void swapWith(LargeInteger& other) noexcept;
     /// Becomes zero, without a sign. A buffer of 17 words or more is released for a small one.
     void clear() noexcept;
-    /// A reservation: makes room above the 32-bit word of index `w`, so that writing words up to
-    /// `w` allocates nothing. The value does not change. Does nothing where there is room already.
+    /// A reservation: makes room above the 32-bit word of index `w`, so that setting bits up to
+    /// there allocates nothing; sums and shifts want one word more. The value does not change. Does
+    /// nothing where there is room already.
+    ///
+    /// Assignment, products and quotients take a new buffer; `clear` may.
     void ensureSize(int w) noexcept;
 
     /// @}
@@ -196,8 +201,10 @@ class LargeInteger {
     /// @}
     /// @name Shifts of the magnitude
     /// The sign flag stays, so a right shift rounds toward zero: (-5) >> 1 is -2. Shifting every
-    /// bit out gives a plain zero, unless higher bits were cleared since the last operation that
-    /// looked for the top: then a zero may keep its flag.
+    /// bit out gives a plain zero. It may keep its flag where higher bits have gone since the last
+    /// operation that looked for the top (cleared, or lost in a sum, a difference or a remainder),
+    /// and always keeps it when `from` is above 0. The binary operators copy first and give a
+    /// plain zero.
     /// @{
 
     /// Shifts left by `count`, or right by `-count`. With `from` above 0 only the bits at
@@ -244,26 +251,27 @@ class LargeInteger {
 
     /// Uses both values up: their greatest common divisor by the steps of repeated subtraction.
     ///
-    /// @pre Two objects, both values not negative, and `b` not zero unless `a` is. Otherwise the
-    /// call may not return: a zero `b` is subtracted for ever, opposite signs grow for ever. (One
-    /// object twice gives 0.)
+    /// @pre Two objects, no null pointers, both values not negative, and `b` not zero unless `a`
+    /// is. Otherwise the call can run for ever (an assert says so first): a zero `b` is subtracted
+    /// for ever, opposite signs grow for ever. (One object twice gives 0.)
     [[nodiscard]] static LargeInteger simpleGCD(LargeInteger* a, LargeInteger* b) noexcept;
     /// Greatest common divisor with `other`; that of x and 0 is x.
-    /// @pre Both values are not negative; otherwise the call may not return.
+    /// @pre Both values are not negative; otherwise the call can run for ever.
     [[nodiscard]] LargeInteger findGreatestCommonDivisor(LargeInteger other) const noexcept;
     /// Becomes its inverse modulo `m`, or zero for an even value, even where an inverse exists (4
     /// modulo 7).
     ///
     /// Zero, too, for an `m` that is 1, 0 or negative, and for a multiple of `m`; a value of `m` or
     /// more is even or odd by what it is once reduced modulo `m`.
-    /// @pre The value is not negative and shares no factor with `m`; otherwise the call may not
-    /// return.
+    /// @pre The value is not negative and, except in the cases above, shares no factor with `m`;
+    /// otherwise the call can run for ever (an assert says so first).
     void inverseModulo(LargeInteger const& m) noexcept;
     /// Becomes its power modulo `m`; the exponent itself is first reduced modulo `m`, so pass one
     /// below `m`.
     ///
-    /// A reduced exponent of zero gives 1, also for an `m` of 1; an `m` of zero gives 1.
-    /// @pre The base is not negative; otherwise the sign is not that of the power.
+    /// A reduced exponent of zero gives 1, also for an `m` of 1; an `m` of zero gives 1. Exponent
+    /// and modulus count by their magnitudes.
+    /// @pre The base is not negative; otherwise the sign may be wrong.
     void exponentModulo(LargeInteger const& e, LargeInteger const& m) noexcept;
 
     /// @}
@@ -278,8 +286,8 @@ class LargeInteger {
     /// Becomes the number that `text` writes in radix 2, 8, 10 or 16; what is no digit of the radix
     /// is skipped, and nothing is an error: "12-3" is 123, and a text without digits zero.
     ///
-    /// A "-" counts only as the first character. Reading stops at a zero byte. In any other radix
-    /// no digit is read.
+    /// A "-" counts only as the first character; before no digit or only zeros it gives a negative
+    /// zero. Reading stops at a zero byte. In any other radix no digit is read.
     void parseString(std::string const& text, int radix) noexcept;
 
     /// @}

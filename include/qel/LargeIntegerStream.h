@@ -15,7 +15,8 @@ namespace qel {
 ///
 /// In decimal, or as `std::hex` and `std::oct` say, behind a "-" when negative; in the width and
 /// with the fill of the stream. Other manipulators (`std::showbase`, `std::uppercase`,
-/// `std::showpos`, `std::internal`) change nothing. The cost is that of toString.
+/// `std::showpos`, `std::internal`) and the locale's digit grouping change nothing. The cost is
+/// that of toString.
 ///
 /// Throws only where the stream does, by its own `exceptions()`.
 inline std::ostream& operator<<(std::ostream& out, LargeInteger const& value) {

@@ -23,9 +23,9 @@ class PrimesNumber {
     /// witnesses; each costs one modular power. A composite passes only if it fools all of them.
     ///
     /// From 2048 on, a value with a factor from 3 to 23 is refused before any witness; with a
-    /// `witnessCount` of zero or less every other odd value passes. Each witness may square once
-    /// more often than the textbook's.
-    /// @pre `n` is not negative; otherwise the call may not return.
+    /// `witnessCount` of zero or less every other odd value passes. A witness equal to the number
+    /// fails: the prime 2053 passes 308 witnesses and not 309.
+    /// @pre `n` is not negative; otherwise the call can run for ever.
     [[nodiscard]] static bool isProbablyPrime(LargeInteger const& n, int witnessCount) noexcept;
 
     /// Searches upward from a start that the seeds determine; the same arguments give the same
@@ -33,13 +33,14 @@ class PrimesNumber {
     /// nothing.
     ///
     /// The result is not the next prime: the 2048 numbers or more just above the start are never
-    /// searched. Candidates with certain small divisors (3 and 2p + 1, for the primes p below
-    /// 15000) are left out, the others tested in ascending order.
+    /// searched. Candidates that certain small numbers other than themselves divide (3 and 2p + 1,
+    /// for the primes p below 15000) are left out, the others tested in ascending order.
     /// @param bitCount the width of the start, whose top bit is forced. The search may leave the
-    ///     width behind: the result can have more bits, always so below some 12 bits.
+    ///     width behind: the result can have more bits, always so up to 12 bits. A negative
+    ///     `bitCount` gives zero; one of 671088640 or more ends the process.
     /// @param witnessCount as for isProbablyPrime; each costs a modular power.
     /// @param seeds `seedCount` integers; may be null when `seedCount` is 0.
-    /// @param seedCount 0 or more
+    /// @param seedCount 0 or more; a negative count draws nothing, as 0 does.
     /// @return the prime; zero when the start has outgrown `bitCount` bits before a block of
     ///     candidates is searched.
     [[nodiscard]] static LargeInteger createProbablePrime(int bitCount, int witnessCount,

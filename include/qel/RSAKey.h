@@ -23,7 +23,8 @@ class RSAKey {
     ///
     /// Digits are read as leniently as LargeInteger::parseString does in radix 16, and further
     /// commas are skipped. With a text from outside compare what toString() writes, and look that
-    /// the modulus is as wide as it was made: with "3,1" applyToValue does not return.
+    /// neither number has a "-", that the modulus is as wide as it was made, and that the exponent
+    /// is below it: with "3,1" applyToValue runs for ever.
     /// @param text must not be null; a literal 0 is a null text too, and what `RSAKey(0)` and
     ///     `RSAKey key = 0` do is not defined.
     RSAKey(char const* text) noexcept;
@@ -39,29 +40,32 @@ class RSAKey {
     /// Raises each digit of `value` in base modulus to the exponent, and reverses their order.
     ///
     /// `value` becomes the result. The other key of the pair reverses the digits again and restores
-    /// the value. A value below the modulus comes back exactly; one that is a multiple of the
-    /// modulus loses its lowest digit. Costs one modular power a digit.
+    /// the value. A value below the modulus comes back exactly; a multiple of the modulus loses the
+    /// zero digits at its low end. Costs one modular power a digit.
     /// @return false, with `value` cleared to zero, when it is zero or negative or when a field of
     ///     this key is zero.
-    /// @pre The modulus is 2 or more; with a modulus of 1 the call does not return.
+    /// @pre The modulus is 2 or more, the exponent positive and below it; with a modulus of 1 or -1
+    /// the call runs for ever (an assert says so first).
     [[nodiscard]] bool applyToValue(LargeInteger& value) const noexcept;
 
     /// Not a divisor of anything: the first of 3, 5, 9, 17, ..., 65537 (2^k + 1, composites
     /// included) that shares no factor with either argument; when there is none, the first such
     /// number from 4 up.
-    /// @pre Both arguments are positive; otherwise the call may not return.
+    /// @pre Both arguments are positive; otherwise the call can run for ever (an assert says so
+    /// first for a zero).
     [[nodiscard]] static LargeInteger findBestCommonDivisor(LargeInteger const& first,
                                                             LargeInteger const& second) noexcept;
 
     /// Creates the pair that the seeds determine: the same width and seeds give the same pair, on
     /// every machine.
     ///
-    /// The first half of the seeds draws one prime, the rest the other, each tested with 30
-    /// witnesses: one seed alone leaves the first prime without any, the same for everyone. The
-    /// first key takes a small exponent, the second one its inverse. Nothing checks that the primes
-    /// differ: seeds of which both halves draw the same start give a useless modulus. When a prime
-    /// search fails, both keys come out as default keys. The time is that of two prime searches:
-    /// many modular powers of half the width, in the order of the fourth power of `bitCount`.
+    /// The first half of the seeds draws one prime, the rest the other; each prime is tested with
+    /// 30 witnesses. One seed alone leaves none for the first prime, which then is the same for
+    /// everyone. The first key takes a small exponent, the second one its inverse. Nothing checks
+    /// that the primes differ: seeds of which both halves draw the same start give a useless
+    /// modulus. When a prime search fails, both keys come out as default keys. The time is that of
+    /// two prime searches: many modular powers of half the width, in the order of the fourth power
+    /// of `bitCount`.
     /// @param firstKey becomes (small exponent, modulus); what it held before does not matter.
     /// @param secondKey becomes (inverse of that exponent, modulus).
     /// @param bitCount the width of the modulus, give or take a bit; small widths come out wider.

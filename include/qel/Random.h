@@ -19,12 +19,13 @@ class Random {
 
     /// The next 32 bits as any `int`, negative ones included: bits 47 to 16 of the new state.
     ///
-    /// Neighbouring seeds begin with neighbouring numbers, and the seed 0 with 0.
+    /// The first numbers of neighbouring seeds are 384748 or 384749 apart, and the seed 0 begins
+    /// with 0.
     int nextInt() noexcept;
     /// The next bit: bit 47 of the new state.
     bool nextBool() noexcept;
     /// Writes `bitCount` random bits to the positions from `firstBit` up, the last few of them in
-    /// descending order; other bits stay.
+    /// descending order; other bits stay. Bits below position 0 are drawn and lost.
     ///
     /// Bits below the first multiple of 32 cost one step each, upward; then 32 bits cost one step;
     /// the rest costs one step each, downward from the top. A `bitCount` below 1 draws nothing; it

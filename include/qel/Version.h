@@ -17,7 +17,8 @@ namespace qel {
 /// form of `__DATE__`, as "Nov 21 2012".
 ///
 /// The library keeps the memory: the pointer is good until the end of the program. The first call
-/// builds the text, so the calls are to be made from one thread at a time.
+/// builds the text, so the calls are to be made from one thread at a time, and not from a
+/// destructor that runs after the library's own objects are destroyed.
 [[nodiscard]] char const* GetVersion() noexcept;
 
 }  // namespace qel

@@ -1,4 +1,4 @@
-"""Lines and files of the vectors, written or checked: shared by make_vectors.py and prime_model.py.
+"""Lines and files of the vectors, written or checked: shared by the three scripts that write them.
 
 Which cases the files hold is decided elsewhere.
 """

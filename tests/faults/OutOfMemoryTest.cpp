@@ -1,7 +1,7 @@
-// Every allocation of every operation fails in turn: the process ends there and then, by abort,
-// and what was not to be changed is as it was. Integers say so in one line of the library's own;
-// texts are the standard library's, whose exception ends the process with the run-time library's
-// words.
+// The allocations of the operations fail one at a time, each in a process of its own, the first 40
+// and of more than that a sample: the process ends there and then, by abort, and what was not to be
+// changed is as it was. Integers say so in one line of the library's own; texts are the standard
+// library's, whose exception ends the process with the run-time library's words.
 #include "Ending.h"
 #include "FailingAllocations.h"
 

@@ -103,15 +103,20 @@ TEST_F(Files, NamesReach255Bytes) {
     EXPECT_EQ(File::GetSize((longest + 'n').c_str()), 0);
 }
 
-TEST_F(Files, PathsOver1024BytesAreTakenAndThoseOver4096AreNot) {
-    std::string const deep = makeFolderOfLength(1500);
-    makeFile(deep + "/f", "abc");
+TEST_F(Files, APathHasTheBytesThatTheSystemTakesAndNotOneMore) {
+    std::string const deep = makeFolderOfLength(longestPath - 2);
+    std::string const longest = deep + "/f";
+    makeFile(longest, "abc");
     expectKind(deep, folder);
-    expectKind(deep + "/f", file);
-    std::string const tooLong = "./" + std::string(4096, '/') + "..";
+    expectKind(longest, file);
+    EXPECT_EQ(File::GetSize(longest.c_str()), 3);
+    std::string const tooLong = deep + "//f";
     expectKind(tooLong, nothing);
     EXPECT_EQ(File::GetSize(tooLong.c_str()), 0);
     EXPECT_TRUE(File::Delete(tooLong.c_str()));
+    expectKind(longest, file);
+    EXPECT_TRUE(File::Delete(longest.c_str()));
+    expectKind(longest, nothing);
 }
 
 TEST_F(Files, BytesInNamesAreOpaque) {

@@ -61,6 +61,16 @@ class OwnTemporaryFiles : public testing::Environment {
     filesystem::path folder_;
 };
 
+/// Names that take `length` bytes with a separator in front of each.
+std::vector<std::string> namesOfLength(std::size_t length) {
+    constexpr std::size_t longestName = 200;
+    std::vector<std::string> names;
+    for (; length > longestName + 2; length -= longestName + 1)
+        names.emplace_back(longestName, 'n');
+    names.emplace_back(length - 1, 'e');
+    return names;
+}
+
 auto* const ownTemporaryFiles = testing::AddGlobalTestEnvironment(new OwnTemporaryFiles);
 
 }  // namespace
@@ -103,15 +113,34 @@ void makeSocket(std::string const& path) {
     close(descriptor);
 }
 
-std::string makeFolderOfLength(std::size_t length) {
-    constexpr std::size_t longestName = 200;
+std::string pathInside(std::size_t length) {
     std::string path = filesystem::current_path();
-    while (length - path.size() > longestName + 2)
-        path += '/' + std::string(longestName, 'n');
-    path += '/' + std::string(length - path.size() - 1, 'e');
-    filesystem::create_directories(path);
+    for (std::string const& name : namesOfLength(length - path.size()))
+        path += '/' + name;
     EXPECT_EQ(path.size(), length);
     return path;
+}
+
+std::string makeFolderOfLength(std::size_t length) {
+    std::string const path = pathInside(length);
+    filesystem::create_directories(path);
+    return path;
+}
+
+DeepFolder::DeepFolder(std::size_t length)
+    : path_(pathInside(length)),
+      names_(namesOfLength(length - filesystem::current_path().string().size())) {
+    for (std::string const& name : names_) {
+        EXPECT_EQ(mkdir(name.c_str(), 0755), 0) << std::strerror(errno);
+        EXPECT_EQ(chdir(name.c_str()), 0) << std::strerror(errno);
+    }
+}
+
+DeepFolder::~DeepFolder() {
+    for (auto name = names_.rbegin(); name != names_.rend(); ++name) {
+        EXPECT_EQ(chdir(".."), 0) << std::strerror(errno);
+        EXPECT_EQ(rmdir(name->c_str()), 0) << std::strerror(errno);
+    }
 }
 
 void giveUpSuperuser() {

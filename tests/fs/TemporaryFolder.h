@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 /// A new folder among the temporary files, with the permissions of an ordinary one.
 std::filesystem::path makeTemporaryFolder();
@@ -33,9 +35,32 @@ void makeFile(std::string const& path, std::string const& content = "");
 
 void makeSocket(std::string const& path);
 
-/// A folder inside the working directory whose path has exactly `length` bytes, made with nothing
-/// of the library. At most 4095.
+/// The bytes of the longest path that the system takes: 4095 on Linux, 1023 on macOS.
+constexpr std::size_t longestPath = PATH_MAX - 1;
+
+/// A path inside the working directory of exactly `length` bytes. Its names are ones that the
+/// system takes.
+std::string pathInside(std::size_t length);
+
+/// A folder at `pathInside(length)`, made with nothing of the library. At most `longestPath`.
 std::string makeFolderOfLength(std::size_t length);
+
+/// Goes down into new folders until the path of the working directory has exactly `length` bytes,
+/// more than `longestPath` too: each step is short. At its end it comes back and removes them.
+class DeepFolder {
+  public:
+    explicit DeepFolder(std::size_t length);
+    DeepFolder(DeepFolder const&) = delete;
+    DeepFolder& operator=(DeepFolder const&) = delete;
+    ~DeepFolder();
+
+    /// The path of the working directory.
+    [[nodiscard]] std::string const& path() const { return path_; }
+
+  private:
+    std::string path_;
+    std::vector<std::string> names_;
+};
 
 /// What `asOrdinaryUser` does before its steps and behind them.
 void giveUpSuperuser();

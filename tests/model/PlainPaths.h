@@ -3,8 +3,9 @@
 
 #include <array>
 #include <cstddef>
-#include <filesystem>
+#include <cstdlib>
 #include <fstream>
+#include <memory>
 #include <string>
 
 namespace model {
@@ -61,10 +62,17 @@ inline std::string translatedPath(std::string path, MacRoman const& macRoman) {
     return utf8.size() < 4096 ? utf8 : "";
 }
 
+/// `path` where the system has no real path. (std::filesystem::canonical makes the path absolute
+/// first: "" becomes the working directory in libc++, and a long path may become too long.)
+inline std::string systemRealPath(std::string const& path) {
+    std::unique_ptr<char, void (*)(void*)> const resolved(realpath(path.c_str(), nullptr),
+                                                          std::free);
+    return resolved == nullptr ? path : resolved.get();
+}
+
 inline std::string realPath(std::string const& path, std::string const& home) {
-    std::error_code failure;
-    std::string real = std::filesystem::canonical(path, failure);
-    if (failure || real.size() >= 1024)
+    std::string real = systemRealPath(path);
+    if (real.size() >= 1024)
         real = path;
     if (path.find('~') != 0)
         return real;
