@@ -3,6 +3,8 @@
 #include "ClosedStreams.h"
 #include "StrangeLocale.h"
 
+#include <gtest/gtest.h>
+
 #include <cerrno>
 #include <cfenv>
 
