@@ -258,7 +258,7 @@ class CharFunctions {
     /// `v` as `printf` writes it with `format`, which holds one conversion of a double without `*`
     /// or `L` and must not be null. The text may have any length; a format that the C library
     /// refuses gives "". The decimal point is that of the C library's locale, and the last digit
-    /// follows the rounding mode of the thread.
+    /// may follow the rounding mode of the thread.
     [[nodiscard]] static std::string Float2String(double v, char const* format) noexcept;
     /// As `Float2String`; as many bytes as its text has, and a terminator.
     static void Float2Char(double v, char* out, char const* format) noexcept;

@@ -14,8 +14,8 @@ namespace {
 
 using qel::CharFunctions;
 
-constexpr std::array<char const*, 9> formats = {"%f", "%.2f", "%.0f",       "%g",    "%.17g",
-                                                "%e", "%a",   "[%+012.3f]", "%.400f"};
+constexpr std::array<char const*, 10> formats = {"%f", "%.2f", "%.0f", "%g",         "%.17g",
+                                                 "%e", "%a",   "%.1a", "[%+012.3f]", "%.400f"};
 
 template <typename Number>
 std::string printed(char const* format, Number v) {
