@@ -103,7 +103,7 @@ class File {
     ///
     /// False for a folder and where there is nothing, with `text` as it was, and for a file that
     /// does not open, with `text` empty. True with an empty `text` when there is no word. White
-    /// space is that of the "C" locale. `path` may point into `text`.
+    /// space is that of the "C" locale. `path` may be the text's own.
     ///
     /// A pipe that stays open is waited for as long as the standard library's stream waits: until
     /// white space ends the word with libstdc++, until 4096 bytes have come with libc++.
@@ -111,11 +111,10 @@ class File {
     /// Refuses a new file named without a folder, as `HasWriteAccess` does: "f" must be "./f".
     ///
     /// Appends the bytes of `text`, or else writes them into a new file in the old one's place: an
-    /// existing file, or link to one, is deleted first. The new file has the permissions of any new
-    /// file; other names of the old one keep its text. False without `HasWriteAccess`, when the
+    /// existing file, or link to one, is deleted first. The new file has the permissions that the
+    /// process's mask leaves of 0666; other names of the old one keep its text. False without `HasWriteAccess`, when the
     /// old file cannot be deleted, and when the file does not open. Once it is open the result is
-    /// true, even if the disk fills up. A new file has the permissions that the process's mask
-    /// leaves of 0666.
+    /// true, even if the disk fills up.
     [[nodiscard]] static bool WriteStringToFile(std::string const& text, char const* path,
                                                 bool append) noexcept;
 

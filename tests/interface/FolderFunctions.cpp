@@ -2,6 +2,7 @@
 // FolderPathFunctions.cpp.
 #include "FileFunctions.h"
 #include "PathsOfAllKinds.h"
+#include "WorkingDirectory.h"
 
 #include "qel/Folder.h"
 
@@ -58,18 +59,6 @@ void makeDocumentedFolders(Results& results) {
     umask(mask);
     expectResult(results, Folder::MakeDirectory(""), false, "");
 }
-
-/// The working directory, put back at the end of the life.
-class WorkingDirectory {
-  public:
-    WorkingDirectory() = default;
-    WorkingDirectory(WorkingDirectory const&) = delete;
-    WorkingDirectory& operator=(WorkingDirectory const&) = delete;
-    ~WorkingDirectory() { filesystem::current_path(previous_); }
-
-  private:
-    filesystem::path previous_ = filesystem::current_path();
-};
 
 void changeWorkingDirectory(Results& results) {
     PathsOfAllKinds const all;

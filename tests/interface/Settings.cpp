@@ -2,6 +2,7 @@
 
 #include "ClosedStreams.h"
 #include "StrangeLocale.h"
+#include "WorkingDirectory.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +14,6 @@
 namespace interface_test {
 
 namespace {
-
-namespace filesystem = std::filesystem;
 
 class RoundingMode {
   public:
@@ -36,17 +35,6 @@ class FileCreationMask {
 
   private:
     mode_t previous_;
-};
-
-class WorkingDirectory {
-  public:
-    explicit WorkingDirectory(filesystem::path const& path) { filesystem::current_path(path); }
-    WorkingDirectory(WorkingDirectory const&) = delete;
-    WorkingDirectory& operator=(WorkingDirectory const&) = delete;
-    ~WorkingDirectory() { filesystem::current_path(previous_); }
-
-  private:
-    filesystem::path previous_ = filesystem::current_path();
 };
 
 template <typename Guard, typename... Arguments>

@@ -1,21 +1,25 @@
 // A variable of the environment, put back at the end of its life.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <optional>
 #include <string>
 
-namespace interface_test {
-
 class Variable {
   public:
-    /// Null takes it away.
     Variable(char const* name, char const* value) : name_(name), previous_(current(name)) {
-        set(value);
+        set(name, value);
     }
     Variable(Variable const&) = delete;
     Variable& operator=(Variable const&) = delete;
-    ~Variable() { set(previous_ ? previous_->c_str() : nullptr); }
+    ~Variable() { set(name_.c_str(), previous_ ? previous_->c_str() : nullptr); }
+
+    /// Null takes it away.
+    static void set(char const* name, char const* value) {
+        EXPECT_EQ(value == nullptr ? unsetenv(name) : setenv(name, value, 1), 0);
+    }
 
   private:
     static std::optional<std::string> current(char const* name) {
@@ -23,16 +27,6 @@ class Variable {
         return value == nullptr ? std::nullopt : std::optional<std::string>(value);
     }
 
-    void set(char const* value) {
-        if (value == nullptr) {
-            unsetenv(name_.c_str());
-        } else {
-            setenv(name_.c_str(), value, 1);
-        }
-    }
-
     std::string name_;
     std::optional<std::string> previous_;
 };
-
-}  // namespace interface_test
