@@ -115,7 +115,7 @@ class Workspace {
     std::array<limbs::Limb, 640> local;
     limbs::Limb* memory;
     limbs::Limb* next;
-    limbs::Limb* end;
+    [[maybe_unused]] limbs::Limb* end;  // for the assert
 };
 
 }  // namespace qel::internal

@@ -2,6 +2,7 @@
 // bound and capacity. What comes next is the choice of a random engine, or of a fuzzer.
 #pragma once
 
+#include "Subtractions.h"
 #include "Twins.h"
 
 #include <array>
@@ -329,24 +330,6 @@ class Sequence {
         return check(a) + check(divisor) + check(*remainder);
     }
 
-    /// How often the plain gcd would subtract once it has left division; at most about `limit`.
-    static int subtractions(LargeInteger a, LargeInteger b, int limit) {
-        while (!b.isZero() && std::abs(a.getHighestBit() - b.getHighestBit()) > 16) {
-            LargeInteger rest = a % b;
-            a.swapWith(b);
-            b.swapWith(rest);
-        }
-        long long count = 0;
-        while (!b.isZero() && count < limit) {
-            LargeInteger quotient = a / b;
-            count += quotient.getHighestBit() > 20 ? limit : quotient.toInteger();
-            LargeInteger rest = a % b;
-            a.swapWith(b);
-            b.swapWith(rest);
-        }
-        return static_cast<int>(std::min<long long>(count, limit));
-    }
-
     std::string numberTheoryStep() {
         switch (below(4)) {
         case 0:
@@ -365,7 +348,7 @@ class Sequence {
         both(a, [](auto& v) { v.setNegative(false); });
         both(b, [](auto& v) { v.setNegative(false); });
         trace = "gcd of " + describe(a) + " and " + describe(b);
-        if (subtractions(a.fast, b.fast, limit) >= limit)
+        if (subtractionsAfterDivisions(a.fast, b.fast, limit) >= limit)
             return {};
         std::string const fault = difference(a.fast.findGreatestCommonDivisor(b.fast),
                                              a.plain.findGreatestCommonDivisor(b.plain));

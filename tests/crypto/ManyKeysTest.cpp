@@ -3,7 +3,7 @@
 #include "qel/RSAKey.h"
 
 #include "Thoroughness.h"
-#include "model/PlainPrimes.h"
+#include "model/PlainKeys.h"
 
 #include <gtest/gtest.h>
 
@@ -16,27 +16,11 @@ namespace {
 using qel::LargeInteger;
 using qel::RSAKey;
 
-/// The documented steps: two primes of the plain search, the first exponent that fits, its inverse.
 std::string plainPair(int bitCount, std::vector<int> const& seeds) {
-    int const seedCount = static_cast<int>(seeds.size());
-    int const half = bitCount / 2;
-    int const k = seedCount / 2;
-    LargeInteger p = plain::createProbablePrime(half, 30, seeds.data(), k);
-    LargeInteger q =
-        plain::createProbablePrime(bitCount - half, 30, seeds.data() + k, seedCount - k);
-    LargeInteger const n = p * q;
-    LargeInteger const phi = --p * --q;
-    LargeInteger e;
-    for (int c = 2; c < 65537 && e.isZero(); c *= 2) {
-        LargeInteger const candidate(c | 1);
-        if (candidate.findGreatestCommonDivisor(p).isOne()
-            && candidate.findGreatestCommonDivisor(q).isOne())
-            e = candidate;
-    }
-    LargeInteger d = e;
-    d.inverseModulo(phi);
-    std::string const modulus = ',' + n.toString(16);
-    return e.toString(16) + modulus + ' ' + d.toString(16) + modulus;
+    plain::Key first;
+    plain::Key second;
+    plain::createKeyPair(first, second, bitCount, seeds.data(), static_cast<int>(seeds.size()));
+    return first.toString() + ' ' + second.toString();
 }
 
 constexpr int shards = 4;

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <climits>
-
 #include <algorithm>
+#include <climits>
+#include <csignal>
 #include <vector>
 
 namespace {
@@ -77,6 +77,11 @@ TEST(PrimeSearch, WithoutWitnessesTheFirstUnstruckCandidateIsTheResult) {
 TEST(PrimeSearch, ANegativeWidthFindsNothing) {
     EXPECT_TRUE(search(-1, {1, 2}).isZero());
     EXPECT_TRUE(search(-2000000000, {}).isZero());
+}
+
+TEST(PrimeSearch, AWidthWithMoreCandidatesThanAnIntCountsEndsTheProcess) {
+    EXPECT_EXIT((void)search(671088640, {}), testing::KilledBySignal(SIGABRT),
+                "wider than an int can index");
 }
 
 }  // namespace

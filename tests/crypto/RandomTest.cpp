@@ -1,11 +1,13 @@
 // The seeded generator: its steps, and the order in which it fills bits.
 #include "qel/Random.h"
 
+#include "model/PlainRandom.h"
 #include "qel/LargeInteger.h"
 
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <csignal>
 #include <cstdint>
 #include <cstdlib>
 #include <random>
@@ -16,10 +18,6 @@ using qel::LargeInteger;
 using qel::Random;
 
 constexpr unsigned long long mask48 = 0xFFFFFFFFFFFFULL;
-
-unsigned long long nextState(unsigned long long state) {
-    return (state * 0x5DEECE66DULL + 11) & mask48;
-}
 
 /// The C library's generator of the same family, with the state of a given seed.
 struct LibraryGenerator {
@@ -87,59 +85,48 @@ TEST(Random, ACopyGoesOnFromTheSameState) {
     EXPECT_EQ(copy.nextInt(), random.nextInt());
 }
 
-/// Draws the bits of a state sequence one step at a time.
-struct PlainSteps {
-    explicit PlainSteps(long long seed) : state(static_cast<unsigned long long>(seed)) {}
-
-    unsigned long long step() { return state = nextState(state); }
-    int bit() { return static_cast<int>(step() >> 47); }
-    unsigned int word() { return static_cast<unsigned int>(step() >> 16); }
-
-    unsigned long long state;
-};
-
 TEST(Random, AlignedWordsCostOneStepEach) {
     LargeInteger v;
     Random random(42);
     random.fillBitsRandomly(v, 0, 64);
-    PlainSteps plain(42);
-    EXPECT_EQ(static_cast<unsigned int>(v.getBitRangeAsInt(0, 32)), plain.word());
-    EXPECT_EQ(static_cast<unsigned int>(v.getBitRangeAsInt(32, 32)), plain.word());
-    EXPECT_EQ(random.nextInt(), static_cast<int>(plain.word()));
+    plain::Random plainSteps(42);
+    EXPECT_EQ(v.getBitRangeAsInt(0, 32), plainSteps.nextInt());
+    EXPECT_EQ(v.getBitRangeAsInt(32, 32), plainSteps.nextInt());
+    EXPECT_EQ(random.nextInt(), plainSteps.nextInt());
 }
 
 TEST(Random, TrailingBitsAreDrawnFromTheTopDown) {
     LargeInteger v;
     Random random(42);
     random.fillBitsRandomly(v, 0, 70);
-    PlainSteps plain(42);
-    (void)plain.word();
-    (void)plain.word();
+    plain::Random plainSteps(42);
+    (void)plainSteps.nextInt();
+    (void)plainSteps.nextInt();
     for (int i = 69; i >= 64; --i)
-        EXPECT_EQ(v[i], plain.bit()) << i;
-    EXPECT_EQ(random.nextInt(), static_cast<int>(plain.word()));
+        EXPECT_EQ(v[i] != 0, plainSteps.nextBool()) << i;
+    EXPECT_EQ(random.nextInt(), plainSteps.nextInt());
 }
 
 TEST(Random, LeadingBitsAreDrawnUpwardThenTheRestDownward) {
     LargeInteger v;
     Random random(7);
     random.fillBitsRandomly(v, 5, 30);
-    PlainSteps plain(7);
+    plain::Random plainSteps(7);
     for (int i = 5; i <= 31; ++i)
-        EXPECT_EQ(v[i], plain.bit()) << i;
+        EXPECT_EQ(v[i] != 0, plainSteps.nextBool()) << i;
     for (int i = 34; i >= 32; --i)
-        EXPECT_EQ(v[i], plain.bit()) << i;
-    EXPECT_EQ(random.nextInt(), static_cast<int>(plain.word()));
+        EXPECT_EQ(v[i] != 0, plainSteps.nextBool()) << i;
+    EXPECT_EQ(random.nextInt(), plainSteps.nextInt());
 }
 
 TEST(Random, ARangeInsideOneWordIsDrawnUpward) {
     LargeInteger v;
     Random random(7);
     random.fillBitsRandomly(v, 3, 9);
-    PlainSteps plain(7);
+    plain::Random plainSteps(7);
     for (int i = 3; i < 12; ++i)
-        EXPECT_EQ(v[i], plain.bit()) << i;
-    EXPECT_EQ(random.nextInt(), static_cast<int>(plain.word()));
+        EXPECT_EQ(v[i] != 0, plainSteps.nextBool()) << i;
+    EXPECT_EQ(random.nextInt(), plainSteps.nextInt());
 }
 
 TEST(Random, BitsOutsideTheRangeStay) {
@@ -152,6 +139,14 @@ TEST(Random, BitsOutsideTheRangeStay) {
         for (int i = 137; i < 300; ++i)
             EXPECT_EQ(v[i], fill) << i;
     }
+}
+
+TEST(Random, AFillAboveTheHighestPositionEndsTheProcess) {
+    LargeInteger v;
+    EXPECT_EXIT(Random(3).fillBitsRandomly(v, INT_MAX, 2), testing::KilledBySignal(SIGABRT),
+                "wider than an int can index");
+    EXPECT_EXIT(Random(3).fillBitsRandomly(v, INT_MAX, INT_MAX), testing::KilledBySignal(SIGABRT),
+                "wider than an int can index");
 }
 
 TEST(Random, AFillOfNoBitsDrawsNothingButMaySetTheBitBelow) {

@@ -5,6 +5,7 @@
 #include <cfloat>
 #include <climits>
 #include <limits>
+#include <type_traits>
 
 namespace interface_test {
 
@@ -62,5 +63,68 @@ inline constexpr std::array<float, 10> extremeFloats = {0.0F,
                                                         FLT_MAX,
                                                         std::numeric_limits<float>::infinity(),
                                                         std::numeric_limits<float>::quiet_NaN()};
+
+inline constexpr std::array<long long, 16> extremeWide = {LLONG_MIN,
+                                                          LLONG_MIN + 1,
+                                                          -(1LL << 48),
+                                                          INT_MIN - 1LL,
+                                                          INT_MIN,
+                                                          -1,
+                                                          0,
+                                                          1,
+                                                          INT_MAX,
+                                                          UINT_MAX,
+                                                          UINT_MAX + 1LL,
+                                                          (1LL << 47) - 1,
+                                                          1LL << 47,
+                                                          1LL << 48,
+                                                          LLONG_MAX - 1,
+                                                          LLONG_MAX};
+
+/// A radix: the four that mean something, one between them, and the ends of the range.
+struct Radix {
+    int value;
+    operator int() const { return value; }
+};
+
+inline constexpr std::array<bool, 2> bothBools = {false, true};
+
+/// The values that an argument of type `Number` takes.
+template <typename Number>
+constexpr auto extremes() {
+    if constexpr (std::is_same_v<Number, bool>) {
+        return bothBools;
+    } else if constexpr (std::is_same_v<Number, unsigned int>) {
+        return extremeUnsigned;
+    } else if constexpr (std::is_same_v<Number, long long>) {
+        return extremeWide;
+    } else if constexpr (std::is_same_v<Number, Radix>) {
+        std::array<Radix, extremeInts.size() + 5> radixes{{{2}, {7}, {8}, {10}, {16}}};
+        for (std::size_t i = 0; i < extremeInts.size(); ++i)
+            radixes[i + 5].value = extremeInts[i];
+        return radixes;
+    } else {
+        static_assert(std::is_same_v<Number, int>);
+        return extremeInts;
+    }
+}
+
+/// Visits every combination of the values of some arguments.
+template <typename... Numbers>
+struct Combinations {
+    template <typename Visit>
+    static void forEach(Visit visit) {
+        visit();
+    }
+};
+
+template <typename First, typename... Rest>
+struct Combinations<First, Rest...> {
+    template <typename Visit>
+    static void forEach(Visit visit) {
+        for (First const first : extremes<First>())
+            Combinations<Rest...>::forEach([&](Rest... rest) { visit(first, rest...); });
+    }
+};
 
 }  // namespace interface_test

@@ -38,7 +38,7 @@ struct Function {
     std::set<State> follows = {};
 };
 
-/// GoogleTest finds this one by its name.
+// GoogleTest finds this one by its name.
 inline void PrintTo(Function const& function, std::ostream* out) {
     *out << function.name;
 }

@@ -74,7 +74,19 @@ class Results {
     void write(qel::Date const& date) { out_ << date.GetMillisecondsSinceEpoch(); }
     void write(qel::RSAKey const& key) { write(key.toString()); }
     void write(qel::LargeInteger const& value) {
-        out_ << "0x" << value.toString(16) << ' ' << bigint_test::books(value);
+        bigint_test::Books const books = bigint_test::books(value);
+        if (books.size <= wordsInFull)
+            out_ << "0x" << value.toString(16) << ' ' << books;
+        else
+            out_ << std::hex << sumOf(value) << std::dec << ' ' << books;
+    }
+    /// Wider values are written as a sum of their words.
+    static constexpr int wordsInFull = 100;
+    static std::uint64_t sumOf(qel::LargeInteger const& value) {
+        std::uint64_t sum = 0;
+        for (int i = bigint_test::LargeIntegerPeer::size(value) - 1; i >= 0; --i)
+            sum = sum * 0x9E3779B97F4A7C15U + bigint_test::LargeIntegerPeer::word(value, i);
+        return sum;
     }
 
     static constexpr std::size_t longestShown = 100;

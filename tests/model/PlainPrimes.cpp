@@ -84,9 +84,9 @@ constexpr int screeningLimit = 15000;
 
 LargeInteger startingValue(int bitCount, int const* seeds, int seedCount) noexcept {
     LargeInteger start;
-    for (int i = seedCount - 1; i >= 0; --i) {
+    for (int i = seedCount; i > 0; --i) {
         LargeInteger fill;
-        Random(seeds[i]).fillBitsRandomly(fill, 0, bitCount);
+        Random(seeds[i - 1]).fillBitsRandomly(fill, 0, bitCount);
         start ^= fill;
     }
     if (bitCount > 0)
