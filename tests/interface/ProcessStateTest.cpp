@@ -5,6 +5,7 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
+#include <map>
 #include <sstream>
 
 namespace {
@@ -17,6 +18,15 @@ std::string resultsOf(Function const& function, int errorNumber) {
     results.setErrorNumber(errorNumber);
     function.exercise(results);
     return results.text();
+}
+
+/// In the surroundings alone; kept, for they are the same in each test.
+std::string const& ordinaryResultsOf(Function const& function) {
+    static std::map<std::string, std::string> kept;
+    auto const [entry, isNew] = kept.try_emplace(function.name);
+    if (isNew)
+        entry->second = resultsOf(function, 0);
+    return entry->second;
 }
 
 /// Failures come when the state is gone: there may be no stream for them to be seen on.
@@ -58,7 +68,7 @@ TEST_P(ProcessState, IsFollowedByTheFunctionsThatSaySoAndByNoOther) {
     if (settings.empty())
         GTEST_SKIP() << "no 8-bit locale: neither the system has one nor can localedef make one";
     for (Function const& function : publicFunctions()) {
-        std::string const ordinary = resultsOf(function, 0);
+        std::string const& ordinary = ordinaryResultsOf(function);
         std::string differences;
         for (Setting const& setting : settings) {
             std::string const found = difference(ordinary, resultsIn(setting, function));

@@ -88,7 +88,6 @@ std::vector<Setting> settingsOf(State state, Surroundings const& surroundings,
                 setting<Variable>("unset", "HOME", static_cast<char const*>(nullptr))};
     case State::roundingMode:
         return {setting<RoundingMode>("upward", FE_UPWARD),
-                setting<RoundingMode>("downward", FE_DOWNWARD),
                 setting<RoundingMode>("toward zero", FE_TOWARDZERO)};
     case State::errorNumber:
         return withErrorNumbers();
