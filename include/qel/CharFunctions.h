@@ -195,7 +195,7 @@ class CharFunctions {
 
     /// @}
     /// @name Numbers from text
-    /// The text must not be null.
+    /// The text must not be null. Values in floating point follow the rounding mode of the thread.
     /// @{
 
     /// Takes a sign anywhere, one for each of mantissa and exponent: "12-" and "1-2" are numbers.
@@ -206,9 +206,11 @@ class CharFunctions {
     /// whole, and white space is no part of a number.
     [[nodiscard]] static bool IsNumber(char const* s) noexcept;
     /// True for a number whose `AsciiToDouble` is a whole one from -2147483648 to 2147483647,
-    /// however it is written: "2.0", "1e3", "0x10" and "-0" are such.
+    /// however it is written: "2.0", "1e3", "0x10" and "-0" are such. Where the thread rounds
+    /// otherwise than to nearest, "1e3" and others with an exponent need not be.
     [[nodiscard]] static bool IsInt(char const* s) noexcept;
-    /// True for a number whose `AsciiToDouble` is a whole one from 0 to 4294967295, "-0" included.
+    /// True for a number whose `AsciiToDouble` is a whole one from 0 to 4294967295, "-0" included;
+    /// in the rounding mode of the thread, as for `IsInt`.
     [[nodiscard]] static bool IsUnsignedInt(char const* s) noexcept;
     /// Reads the numbers of `IsNumber`, not always to the nearest double: each decimal of a
     /// fraction adds its digit times a power of 0.1, so that "0.3" is 3 * 0.1.
@@ -221,14 +223,16 @@ class CharFunctions {
     /// `AsciiToDouble` rounded to single precision; infinity beyond its range.
     [[nodiscard]] static float AsciiToFloat(char const* s) noexcept;
     /// The C library's `atof`, which reads other texts than `AsciiToDouble` does: white space in
-    /// front is skipped, what follows the number ignored, and "1-2" is 1.
+    /// front is skipped, what follows the number ignored, and "1-2" is 1. The decimal point and
+    /// what is white space are those of the C library's locale.
     [[nodiscard]] static double GetDoubleValue(char const* s) noexcept;
     /// `GetDoubleValue` rounded to single precision; infinity beyond its range.
     [[nodiscard]] static float GetFloatValue(char const* s) noexcept;
     /// The C library's `atoi`, which does not read all that `IsInt` accepts: of "1e3" and "0x10" it
     /// reads 1 and 0. White space in front is skipped, what follows the digits ignored.
     ///
-    /// The text is to hold a value from -2147483648 to 2147483647.
+    /// The text is to hold a value from -2147483648 to 2147483647. What is white space, the C
+    /// library's locale says.
     [[nodiscard]] static int GetIntValue(char const* s) noexcept;
 
     /// @}
@@ -253,7 +257,8 @@ class CharFunctions {
     [[nodiscard]] static std::string Int2Hexa(int v, bool upperCase) noexcept;
     /// `v` as `printf` writes it with `format`, which holds one conversion of a double without `*`
     /// or `L` and must not be null. The text may have any length; a format that the C library
-    /// refuses gives "".
+    /// refuses gives "". The decimal point is that of the C library's locale, and the last digit
+    /// may follow the rounding mode of the thread.
     [[nodiscard]] static std::string Float2String(double v, char const* format) noexcept;
     /// As `Float2String`; as many bytes as its text has, and a terminator.
     static void Float2Char(double v, char* out, char const* format) noexcept;

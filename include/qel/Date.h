@@ -29,6 +29,10 @@ namespace qel {
 /// That offset from UTC holds all year round, so a date built in the year 2040 reads back moved by
 /// it. Outside the ranges the calendar is the Gregorian one, extended backward.
 ///
+/// A change of the variable TZ counts for all functions once the application has called tzset. Of
+/// an hour that comes twice, when daylight saving ends, the C library chooses the one or the other,
+/// on some systems by the date that it was asked for before.
+///
 /// One date may be read by several threads at once, or changed by one; no other thread may change
 /// the environment while fields are converted. The functions that read the current time share the
 /// state of one clock and are to be called from one thread at a time.
@@ -106,7 +110,8 @@ class Date {
     /// begins or ends in between.
     void AddDays(long long n) noexcept;
     /// The days from `second` to `first`, a part of a day taken upward: 1 ms counts as a day,
-    /// -1 ms as none. Computed in double precision.
+    /// -1 ms as none. Computed in double precision, in the rounding mode of the thread: where that
+    /// is not to nearest, seven days back may count as -6.
     [[nodiscard]] static long long GetNumberOfDaysBetween(Date const& first,
                                                           Date const& second) noexcept;
 
@@ -165,7 +170,8 @@ class Date {
     [[nodiscard]] static int GetDay(char const* text) noexcept;
     /// The month of a day-month-year text; -1 when it cannot be read. No range is checked.
     [[nodiscard]] static int GetMonth(char const* text) noexcept;
-    /// The year of a day-month-year text; -1 when it cannot be read. No range is checked.
+    /// The year of a day-month-year text; -1 when it cannot be read. No range is checked. ".1e1" is
+    /// read or not as the rounding mode of the thread has it.
     [[nodiscard]] static int GetYear(char const* text) noexcept;
     /// Does not look at the lengths of months: "31/02/2012" is valid.
     ///

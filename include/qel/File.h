@@ -111,10 +111,10 @@ class File {
     /// Refuses a new file named without a folder, as `HasWriteAccess` does: "f" must be "./f".
     ///
     /// Appends the bytes of `text`, or else writes them into a new file in the old one's place: an
-    /// existing file, or link to one, is deleted first. The new file has the permissions of any new
-    /// file; other names of the old one keep its text. False without `HasWriteAccess`, when the
-    /// old file cannot be deleted, and when the file does not open. Once it is open the result is
-    /// true, even if the disk fills up.
+    /// existing file, or link to one, is deleted first. The new file has the permissions that the
+    /// process's mask leaves of 0666; other names of the old one keep its text. False without
+    /// `HasWriteAccess`, when the old file cannot be deleted, and when the file does not open. Once
+    /// it is open the result is true, even if the disk fills up.
     [[nodiscard]] static bool WriteStringToFile(std::string const& text, char const* path,
                                                 bool append) noexcept;
 

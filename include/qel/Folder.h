@@ -10,8 +10,8 @@ namespace qel {
 /// Folders, the working and the home folder, joined, absolute and real paths, aliases.
 ///
 /// Paths are C strings of bytes with `/` between their parts, and must not be null. A failure
-/// shows in the result only. The working directory belongs to the process: callers see to it that
-/// none changes it while another depends on it.
+/// shows in the result only. Relative paths go from the working directory, which belongs to the
+/// process: callers see to it that none changes it while another depends on it.
 class Folder {
   public:
     /// There are no instances: every function is static.
@@ -29,7 +29,7 @@ class Folder {
     /// Missing folders are those of `File::GetParentFolder`, from the top down, so that a
     /// backslash makes a folder as well. True when all were made, or `path` is a folder already.
     /// False for "", for an existing file, and at the first that cannot be made or looked at;
-    /// those made before it stay.
+    /// those made before it stay. Each has the permissions that the process's mask leaves of 0755.
     static bool MakeDirectory(char const* path) noexcept;
     /// Changes the working directory of the whole process. False for "" and when the system
     /// refuses.

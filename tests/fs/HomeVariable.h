@@ -1,29 +1,15 @@
 // The environment variable HOME, put back at the end of the test.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <optional>
-#include <string>
+#include "Variable.h"
 
 class HomeVariable {
   public:
-    explicit HomeVariable(char const* value) : previous_(current()) { set(value); }
-    HomeVariable(HomeVariable const&) = delete;
-    HomeVariable& operator=(HomeVariable const&) = delete;
-    ~HomeVariable() { set(previous_ ? previous_->c_str() : nullptr); }
+    explicit HomeVariable(char const* value) : variable_("HOME", value) {}
 
     /// Null takes it away.
-    static void set(char const* value) {
-        EXPECT_EQ(value == nullptr ? unsetenv("HOME") : setenv("HOME", value, 1), 0);
-    }
+    static void set(char const* value) { Variable::set("HOME", value); }
 
   private:
-    static std::optional<std::string> current() {
-        char const* const value = std::getenv("HOME");
-        return value == nullptr ? std::nullopt : std::optional<std::string>(value);
-    }
-
-    std::optional<std::string> previous_;
+    Variable variable_;
 };

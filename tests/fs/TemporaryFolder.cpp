@@ -17,14 +17,6 @@ namespace {
 
 namespace filesystem = std::filesystem;
 
-/// A new folder in the one for temporary files.
-filesystem::path makeTemporaryFolder() {
-    std::string name = filesystem::canonical(filesystem::temp_directory_path()) / "qel-fs-XXXXXX";
-    EXPECT_NE(mkdtemp(name.data()), nullptr) << name << ": " << std::strerror(errno);
-    EXPECT_EQ(chmod(name.c_str(), 0755), 0);
-    return name;
-}
-
 void giveBackPermissions(filesystem::path const& folder) {
     filesystem::permissions(folder, filesystem::perms::owner_all, filesystem::perm_options::add);
     for (auto const& entry : filesystem::directory_iterator(folder)) {
@@ -33,11 +25,22 @@ void giveBackPermissions(filesystem::path const& folder) {
     }
 }
 
+}  // namespace
+
+std::filesystem::path makeTemporaryFolder() {
+    std::string name = filesystem::canonical(filesystem::temp_directory_path()) / "qel-fs-XXXXXX";
+    EXPECT_NE(mkdtemp(name.data()), nullptr) << name << ": " << std::strerror(errno);
+    EXPECT_EQ(chmod(name.c_str(), 0755), 0);
+    return name;
+}
+
 void removeFolder(filesystem::path const& folder) {
     giveBackPermissions(folder);
     filesystem::remove_all(folder);
     EXPECT_FALSE(filesystem::exists(folder)) << folder << " is left behind";
 }
+
+namespace {
 
 /// The program's own folder for temporary files: nothing but this program writes there, so that
 /// at the end it must be as empty as it was. The program works in it between its tests.

@@ -10,6 +10,12 @@
 #include <string>
 #include <vector>
 
+/// A new folder among the temporary files, with the permissions of an ordinary one.
+std::filesystem::path makeTemporaryFolder();
+
+/// Removes the folder with all that is in it, whatever the permissions of that are.
+void removeFolder(std::filesystem::path const& folder);
+
 class TemporaryFolder : public testing::Test {
   protected:
     void SetUp() override;

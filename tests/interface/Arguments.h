@@ -2,7 +2,9 @@
 #pragma once
 
 #include <array>
+#include <cfloat>
 #include <climits>
+#include <limits>
 #include <type_traits>
 
 namespace interface_test {
@@ -17,6 +19,50 @@ inline constexpr std::array<unsigned int, extremeInts.size()> extremeUnsigned = 
         values[i] = static_cast<unsigned int>(extremeInts[i]);
     return values;
 }();
+
+/// Both ends of `Integer`, of int and of unsigned int, and what lies next to them.
+template <typename Integer>
+inline constexpr std::array<Integer, extremeInts.size() + 8> extremesOf = [] {
+    static_assert(sizeof(Integer) == 8);
+    std::array<Integer, extremeInts.size() + 8> values{};
+    std::size_t i = 0;
+    for (int const value : extremeInts)
+        values[i++] = static_cast<Integer>(value);
+    constexpr auto lowest = std::numeric_limits<Integer>::min();
+    constexpr auto highest = std::numeric_limits<Integer>::max();
+    for (Integer const value :
+         {lowest, lowest + 1, highest - 1, highest, static_cast<Integer>(INT_MIN) - 1,
+          static_cast<Integer>(INT_MAX) + 1, static_cast<Integer>(UINT_MAX),
+          static_cast<Integer>(UINT_MAX) + 1})
+        values[i++] = value;
+    return values;
+}();
+
+inline constexpr std::array<double, 14> extremeDoubles = {0.0,
+                                                          -0.0,
+                                                          1.5,
+                                                          0.1,
+                                                          -1.0 / 3,
+                                                          1234567.875,
+                                                          -1e22,
+                                                          DBL_MIN,
+                                                          DBL_TRUE_MIN,
+                                                          DBL_MAX,
+                                                          -DBL_MAX,
+                                                          std::numeric_limits<double>::infinity(),
+                                                          -std::numeric_limits<double>::infinity(),
+                                                          std::numeric_limits<double>::quiet_NaN()};
+
+inline constexpr std::array<float, 10> extremeFloats = {0.0F,
+                                                        -0.0F,
+                                                        1.5F,
+                                                        0.1F,
+                                                        -1.0F / 3,
+                                                        FLT_MIN,
+                                                        FLT_TRUE_MIN,
+                                                        FLT_MAX,
+                                                        std::numeric_limits<float>::infinity(),
+                                                        std::numeric_limits<float>::quiet_NaN()};
 
 inline constexpr std::array<long long, 16> extremeWide = {LLONG_MIN,
                                                           LLONG_MIN + 1,

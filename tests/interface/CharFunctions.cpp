@@ -1,9 +1,14 @@
-#include "Function.h"
+#include "CharFunctions.h"
 
 namespace interface_test {
 
 std::vector<Function> charFunctions() {
-    return {};
+    std::vector<Function> all;
+    for (auto const& group : {characterFunctions(), searchFunctions(), comparisonFunctions(),
+                              rawCopyFunctions(), editingFunctions(), replacingFunctions(),
+                              numberReadingFunctions(), numberWritingFunctions()})
+        all.insert(all.end(), group.begin(), group.end());
+    return all;
 }
 
 }  // namespace interface_test

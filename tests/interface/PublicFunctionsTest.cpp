@@ -1,5 +1,6 @@
 // Every public function is in the table, and does what is documented with every row's arguments.
 #include "Function.h"
+#include "Surroundings.h"
 
 #include <gtest/gtest.h>
 
@@ -36,6 +37,7 @@ TEST(PublicFunctions, EachOneThatAHeaderDeclaresHasOneRow) {
 class EveryArgument : public testing::TestWithParam<Function> {};
 
 TEST_P(EveryArgument, GivesWhatIsDocumented) {
+    interface_test::Surroundings const surroundings;
     interface_test::Results results;
     GetParam().exercise(results);
     EXPECT_FALSE(results.text().empty());

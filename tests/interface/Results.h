@@ -7,7 +7,9 @@
 #include "qel/RSAKey.h"
 
 #include <bit>
+#include <cerrno>
 #include <cstdint>
+#include <locale>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -26,9 +28,20 @@ class Results {
         out_ << call << ':';
         ((out_ << ' ', write(values)), ...);
         out_ << '\n';
+        errno = errorNumber_;
     }
 
+    /// What stands in errno before the first call and behind each line.
+    void setErrorNumber(int errorNumber) { errno = errorNumber_ = errorNumber; }
+
     [[nodiscard]] std::string text() const { return out_.str(); }
+
+    [[nodiscard]] std::string lastLine() const {
+        std::string const all = text();
+        std::size_t const end =
+            all.size() < 2 ? std::string::npos : all.rfind('\n', all.size() - 2);
+        return end == std::string::npos ? all : all.substr(end + 1);
+    }
 
   private:
     template <typename Number>
@@ -39,8 +52,25 @@ class Results {
         out_ << std::hex << std::bit_cast<std::uint64_t>(value) << std::dec;
     }
     void write(float value) { write(static_cast<double>(value)); }
-    void write(std::string const& text) { out_ << text.size() << '"' << text << '"'; }
-    void write(char const* text) { write(std::string(text)); }
+    /// Of a long text, its length and a digest by the function of Fowler, Noll and Vo.
+    void write(std::string const& text) {
+        out_ << text.size();
+        if (text.size() <= longestShown) {
+            out_ << '"' << text << '"';
+            return;
+        }
+        std::uint64_t digest = 0xCBF29CE484222325;
+        for (char const c : text)
+            digest = (digest ^ static_cast<unsigned char>(c)) * 0x100000001B3;
+        out_ << '#' << digest;
+    }
+    void write(char const* text) {
+        if (text == nullptr) {
+            out_ << "null";
+        } else {
+            write(std::string(text));
+        }
+    }
     void write(qel::Date const& date) { out_ << date.GetMillisecondsSinceEpoch(); }
     void write(qel::RSAKey const& key) { write(key.toString()); }
     void write(qel::LargeInteger const& value) {
@@ -59,7 +89,10 @@ class Results {
         return sum;
     }
 
+    static constexpr std::size_t longestShown = 100;
+
     std::ostringstream out_;
+    int errorNumber_ = 0;
 };
 
 }  // namespace interface_test

@@ -9,6 +9,7 @@
 
 #include <climits>
 #include <cstdlib>
+#include <locale>
 #include <sstream>
 #include <string>
 
@@ -28,6 +29,7 @@ inline std::string padded(unsigned int value) {
 
 inline std::string dateText(qel::Date const& date, DateTextFlags const& f) {
     std::ostringstream out;
+    out.imbue(std::locale::classic());
     if (f.withDate) {
         if (f.withDayName)
             out << date.GetDayOfWeekName() << (f.compact ? "_" : " - ");
