@@ -293,11 +293,11 @@ TEST(LimbVariants, TheOneInUseIsAskedForAllThatHasVariants) {
     Limb quotient = 0;
     limbs::divideNormalized(&quotient, out.data(), 4, divisor.data(), 3);
     EXPECT_EQ(asked, 4);
-    Limb const three = 3;
-    Limb result[3];
-    Limbs scratch(limbs::powerScratch(1, 0));
-    limbs::power(&result[0], &result[1], &result[2], a.data(), a.data(), 0, &three, 1,
-                 scratch.data());
+    Limbs const odd{3, 1};
+    Limbs result(6);
+    Limbs scratch(limbs::powerScratch(2, 0));
+    limbs::power(result.data(), result.data() + 2, result.data() + 4, a.data(), a.data(), 0,
+                 odd.data(), 2, scratch.data());
     EXPECT_EQ(asked, 7);
 }
 

@@ -96,7 +96,7 @@ bool StrongTest::passes(Limb witness) noexcept {
 bool StrongLimbTest::passes(Limb witness) const noexcept {
     Limb const base = montgomery.enter(witness);
     Limb power = base;
-    for (int i = std::bit_width(oddPart) - 1; i-- > 0;) {
+    for (int i = bitsPerLimb - 1 - std::countl_zero(oddPart); i-- > 0;) {
         power = montgomery.multiply(power, power);
         if ((oddPart >> i & 1) != 0)
             power = montgomery.multiply(power, base);
