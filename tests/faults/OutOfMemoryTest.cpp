@@ -16,7 +16,6 @@
 #include "qel/PrimesNumber.h"
 #include "qel/RSAKey.h"
 #include "qel/Random.h"
-#include "qel/Version.h"
 
 #include <gtest/gtest.h>
 
@@ -131,8 +130,7 @@ IntegerRow const integerRows[] = {
     {"insert a bit", [](Integers& v) { v.a.insertBit(200000, true); }},
     {"fill", [](Integers& v) { Random(7).fillBitsRandomly(v.a, 0, 200000); }},
     {"negation", [](Integers& v) { drop(-v.b); }},
-    {"++", [](Integers& v) { ++v.a; }},
-    {"--", [](Integers& v) { --v.a; }},
+    {"++", [](Integers& v) { ++(v.a = v.b); }},  // a tight value grows
     {"postfix ++", [](Integers& v) { v.a++; }},
     {"postfix --", [](Integers& v) { v.a--; }},
     {"+", [](Integers& v) { drop(v.b + v.m); }},
@@ -186,7 +184,7 @@ IntegerRow const heavyRows[] = {
     {"power", [](Integers& v) { v.a.exponentModulo(v.b, v.m); }},
     {"power of an even modulus", [](Integers& v) { v.a.exponentModulo(v.b, v.m + v.m); }},
     {"inverse", [](Integers& v) { (v.a = v.m - LargeInteger(2)).inverseModulo(v.m); }},
-    {"verdict", [](Integers& v) { drop(PrimesNumber::isProbablyPrime(v.m, 5)); }},
+    {"verdict", [](Integers& v) { drop(PrimesNumber::isProbablyPrime(v.m * v.m, 5)); }},
     {"search",
      [](Integers&) {
          int const seeds[] = {1, 2};
@@ -280,7 +278,6 @@ TEST(OutOfMemory, EveryTextOfADateEndsTheProcess) {
          [](Nothing&) { drop(Date().ConvertToString(true, true, true, true, false)); }},
         {"current", [](Nothing&) { drop(Date::GetCurrentDate(true, true, true, true, false)); }},
         {"with separator", [](Nothing&) { drop(Date().GetDDMMYYYY(longText)); }},
-        {"banner", [](Nothing&) { drop(GetVersion()); }},
     };
     expectTheEndOfEach(rows);
 }
