@@ -1,24 +1,24 @@
 // Text from numbers. Integers are written without the C library, and so without a locale.
 #include "qel/CharFunctions.h"
 
+#include "HexDigit.h"
+
 #include <array>
 #include <charconv>
+#include <cstdint>
 #include <cstdio>
 #include <limits>
+#include <string>
 
 namespace qel {
+
+using namespace internal;
 
 namespace {
 
 /// The digits of an integer, with room for its sign and its terminator.
 template <typename Integer>
 using Digits = std::array<char, std::numeric_limits<Integer>::digits10 + 3>;
-
-template <typename Integer>
-std::string stringOf(Integer v, int base = 10) noexcept {
-    Digits<Integer> digits;
-    return {digits.data(), std::to_chars(digits.data(), digits.end(), v, base).ptr};
-}
 
 /// The caller guarantees the room.
 template <typename Integer>
@@ -29,7 +29,7 @@ void write(Integer v, char* out) noexcept {
 }  // namespace
 
 std::string CharFunctions::Int2String(int v) noexcept {
-    return stringOf(v);
+    return std::to_string(v);
 }
 
 void CharFunctions::Int2Char(int v, char* out) noexcept {
@@ -45,7 +45,7 @@ void CharFunctions::UnsignedInt2Char(unsigned int v, char* out) noexcept {
 }
 
 std::string CharFunctions::Long2String(long v) noexcept {
-    return stringOf(v);
+    return std::to_string(v);
 }
 
 void CharFunctions::Long2Char(long v, char* out) noexcept {
@@ -53,8 +53,10 @@ void CharFunctions::Long2Char(long v, char* out) noexcept {
 }
 
 std::string CharFunctions::Int2Hexa(int v, bool upperCase) noexcept {
-    std::string const digits = stringOf(static_cast<unsigned int>(v), 16);
-    return upperCase ? ToUpperCase(digits.c_str()) : digits;
+    auto const value = static_cast<std::uint32_t>(v);
+    std::string text(hexLength(value), '0');
+    writeHex(value, text.data(), text.size(), upperCase ? upperCaseHexDigits : lowerCaseHexDigits);
+    return text;
 }
 
 std::string CharFunctions::Float2String(double v, char const* format) noexcept {

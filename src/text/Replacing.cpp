@@ -3,6 +3,8 @@
 // something, and only bytes that it passed are moved.
 #include "qel/CharFunctions.h"
 
+#include "Blocks.h"
+#include "Joined.h"
 #include "LastOccurrence.h"
 
 #include <algorithm>
@@ -78,7 +80,7 @@ bool isSearchable(char const* part) noexcept {
 
 /// Replaces the last occurrence until there is none.
 std::string replaceAll(char const* s, std::string_view part, std::string_view substitute) {
-    internal::LastOccurrence const last(part);
+    internal::LastOccurrence last(part);
     SplitText text(s);
     // No occurrence starts in the tail: it lies behind the place of the last occurrence. So the
     // next one starts in the head and reaches into the tail by less than its own length.
@@ -92,12 +94,22 @@ std::string replaceAll(char const* s, std::string_view part, std::string_view su
     return std::move(text).joined();
 }
 
-/// One character by another brings nothing about, in any order. Every byte is written: that has no
-/// branch to be mispredicted, and can be done for many at once.
+/// One character by another brings nothing about, in any order.
 std::string replaceCharacter(std::string text, char old, char replacement) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [=](char c) { return c == old ? replacement : c; });
+    using namespace internal;
+    applyToBlocks(text, [=](Block const& bytes) -> Block {
+        Block const isOld = bytes == repeated(old);
+        return (bytes & ~isOld) | (repeated(replacement) & isOld);
+    });
     return text;
+}
+
+/// `text` with its `count` bytes from `position` on replaced; a copy for the no-position value.
+std::string replacedAt(std::string_view text, std::size_t position, std::size_t count,
+                       std::string_view replacement) {
+    if (position == std::string_view::npos)
+        return std::string(text);
+    return internal::joined(text.substr(0, position), replacement, text.substr(position + count));
 }
 
 }  // namespace
@@ -117,23 +129,21 @@ std::string CharFunctions::Replace(char const* s, char const* old,
 
 std::string CharFunctions::ReplaceFirstOccurence(char const* s, char const* old,
                                                  char const* replacement) noexcept {
-    std::string text(s);
     if (!isSearchable(old) || replacement == nullptr)
-        return text;
-    if (char const* const found = std::strstr(s, old))
-        text.replace(static_cast<std::size_t>(found - s), std::strlen(old), replacement);
-    return text;
+        return s;
+    char const* const found = std::strstr(s, old);
+    return replacedAt(
+        s, found == nullptr ? std::string_view::npos : static_cast<std::size_t>(found - s),
+        std::strlen(old), replacement);
 }
 
 std::string CharFunctions::ReplaceLastOccurence(char const* s, char const* old,
                                                 char const* replacement) noexcept {
-    std::string text(s);
     if (!isSearchable(old) || replacement == nullptr)
-        return text;
-    std::size_t const position = internal::LastOccurrence(old).in(text);
-    if (position != std::string::npos)
-        text.replace(position, std::strlen(old), replacement);
-    return text;
+        return s;
+    std::string_view const text(s);
+    std::string_view const part(old);
+    return replacedAt(text, internal::LastOccurrence(part).in(text), part.size(), replacement);
 }
 
 std::string CharFunctions::RemoveAllOccurence(char const* s, char const* part) noexcept {
