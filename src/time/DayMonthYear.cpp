@@ -3,21 +3,72 @@
 
 #include "qel/CharFunctions.h"
 
+#include <array>
+#include <charconv>
+#include <cstring>
+#include <optional>
+#include <string_view>
+
+#include <string.h>
+
 namespace qel {
 
 namespace {
 
-constexpr unsigned int lengthWithSeparators = 10;
-constexpr unsigned int lengthWithout = 8;
+constexpr std::size_t lengthWithSeparators = 10;
+constexpr std::size_t lengthWithout = 8;
 
 constexpr int smallestYear = 100;
 
-/// A text of any other length keeps its separators.
-std::string withoutSeparators(char const* text) noexcept {
-    if (CharFunctions::Length(text) != lengthWithSeparators)
-        return text;
-    std::string const withoutSlashes = CharFunctions::RemoveAllOccurence(text, "/");
-    return CharFunctions::RemoveAllOccurence(withoutSlashes.c_str(), "\\");
+using Characters = std::array<char, lengthWithout>;
+
+bool isSeparator(char c) noexcept {
+    return c == '/' || c == '\\';
+}
+
+/// The eight characters of the fields; nothing for any other number of them. A text of eight keeps
+/// what separators it has.
+std::optional<Characters> charactersOf(char const* text) noexcept {
+    std::size_t const length = strnlen(text, lengthWithSeparators + 1);
+    if (length != lengthWithout && length != lengthWithSeparators)
+        return {};
+    Characters characters = {};
+    std::size_t count = 0;
+    for (char const c : std::string_view(text, length)) {
+        if (length == lengthWithSeparators && isSeparator(c))
+            continue;
+        if (count == characters.size())
+            return {};
+        characters[count++] = c;
+    }
+    return count == characters.size() ? std::optional(characters) : std::nullopt;
+}
+
+/// A field of at most four characters.
+struct Place {
+    std::size_t begin;
+    std::size_t length;
+};
+
+constexpr Place dayPlace = {0, 2};
+constexpr Place monthPlace = {2, 2};
+constexpr Place yearPlace = {4, 4};
+
+/// The number that the C library's atoi reads; -1 for what is no whole number from 0 on. Such a
+/// field has a minus sign only in front of a zero.
+int readField(Characters const& characters, Place place) noexcept {
+    std::array<char, 5> field = {};
+    std::memcpy(field.data(), characters.data() + place.begin, place.length);
+    if (!CharFunctions::IsUnsignedInt(field.data()))
+        return -1;
+    int value = 0;
+    std::from_chars(field.data() + (field.front() == '+' ? 1 : 0), field.end(), value);
+    return value;
+}
+
+int readField(char const* text, Place place) noexcept {
+    std::optional<Characters> const characters = charactersOf(text);
+    return characters ? readField(*characters, place) : -1;
 }
 
 /// The fields as numbers, -1 for one that is none.
@@ -32,31 +83,26 @@ struct DayMonthYear {
     }
 };
 
-int readField(std::string const& field) noexcept {
-    return CharFunctions::IsUnsignedInt(field.c_str()) ? CharFunctions::GetIntValue(field.c_str())
-                                                       : -1;
-}
-
 DayMonthYear read(char const* text) noexcept {
-    std::string const working = withoutSeparators(text);
-    if (working.length() != lengthWithout)
+    std::optional<Characters> const characters = charactersOf(text);
+    if (!characters)
         return {};
-    return {readField(working.substr(0, 2)), readField(working.substr(2, 2)),
-            readField(working.substr(4, 4))};
+    return {readField(*characters, dayPlace), readField(*characters, monthPlace),
+            readField(*characters, yearPlace)};
 }
 
 }  // namespace
 
 int Date::GetDay(char const* text) noexcept {
-    return read(text).day;
+    return readField(text, dayPlace);
 }
 
 int Date::GetMonth(char const* text) noexcept {
-    return read(text).month;
+    return readField(text, monthPlace);
 }
 
 int Date::GetYear(char const* text) noexcept {
-    return read(text).year;
+    return readField(text, yearPlace);
 }
 
 bool Date::IsValidDate(char const* text) noexcept {
