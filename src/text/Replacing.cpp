@@ -94,7 +94,12 @@ std::string replaceAll(char const* s, std::string_view part, std::string_view su
     return std::move(text).joined();
 }
 
-/// One character by another brings nothing about, in any order.
+bool isOneCharacter(char const* s) noexcept {
+    return s[0] != '\0' && s[1] == '\0';
+}
+
+// One character replaced by another, or removed, brings nothing about: any order will do.
+
 std::string replaceCharacter(std::string text, char old, char replacement) {
     using namespace internal;
     applyToBlocks(text, [=](Block const& bytes) -> Block {
@@ -102,6 +107,18 @@ std::string replaceCharacter(std::string text, char old, char replacement) {
         return (bytes & ~isOld) | (repeated(replacement) & isOld);
     });
     return text;
+}
+
+/// Every byte is written, and stays where it is kept: that has no branch to be mispredicted.
+std::string removeCharacter(std::string_view text, char removed) {
+    std::string kept(text.size(), '\0');
+    char* end = kept.data();
+    for (char const c : text) {
+        *end = c;
+        end += c != removed ? 1 : 0;
+    }
+    kept.resize(static_cast<std::size_t>(end - kept.data()));
+    return kept;
 }
 
 /// `text` with its `count` bytes from `position` on replaced; a copy for the no-position value.
@@ -120,11 +137,11 @@ std::string CharFunctions::Replace(char const* s, char const* old,
         return s;
     assert((!Contains(replacement, old) || !Contains(s, old))
            && "the replacement contains the old text: this never returns");
-    std::string_view const part(old);
-    std::string_view const substitute(replacement);
-    if (part.size() == 1 && substitute.size() == 1 && part != substitute)
-        return replaceCharacter(s, part.front(), substitute.front());
-    return replaceAll(s, part, substitute);
+    if (isOneCharacter(old) && isOneCharacter(replacement) && *old != *replacement)
+        return replaceCharacter(s, *old, *replacement);
+    if (isOneCharacter(old) && IsEmpty(replacement))
+        return removeCharacter(s, *old);
+    return replaceAll(s, old, replacement);
 }
 
 std::string CharFunctions::ReplaceFirstOccurence(char const* s, char const* old,

@@ -32,12 +32,12 @@ bool hasFewMembers(char const* set) noexcept {
 
 /// The position behind the last byte that is in `set`; 0 when there is none.
 std::size_t behindLastOfFew(char const* s, char const* set) noexcept {
-    char const* rest = s;
+    std::size_t end = 0;
     for (; *set != '\0'; ++set) {
-        if (char const* const found = std::strrchr(rest, *set))
-            rest = found + 1;
+        if (char const* const found = std::strrchr(s, *set))
+            end = std::max(end, static_cast<std::size_t>(found - s) + 1);
     }
-    return static_cast<std::size_t>(rest - s);
+    return end;
 }
 
 /// So many that the hits at one place of a block still fit in a byte.
