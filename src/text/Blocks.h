@@ -2,6 +2,7 @@
 // machine. Nothing is read beyond a text.
 #pragma once
 
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -24,16 +25,11 @@ inline Block repeated(char c) noexcept {
     return Block{} + static_cast<std::uint8_t>(c);
 }
 
-/// A block as two words of 8 bytes: its last byte is the top one of `last`.
-struct Words {
-    std::uint64_t first;
-    std::uint64_t last;
-};
-
 static_assert(std::endian::native == std::endian::little);
 
-inline Words wordsOf(Block const& block) noexcept {
-    return std::bit_cast<Words>(block);
+/// The last byte of a block is the top one of the second word.
+inline std::array<std::uint64_t, 2> wordsOf(Block const& block) noexcept {
+    return std::bit_cast<std::array<std::uint64_t, 2>>(block);
 }
 
 /// True when any bit is set.

@@ -61,7 +61,7 @@ std::string CharFunctions::ToLowerCase(char const* s) noexcept {
 }
 
 int CharFunctions::GetHexDigitValue(char c) noexcept {
-    return hexDigitValues[static_cast<unsigned char>(c)];
+    return hexDigitValue(c);
 }
 
 int CharFunctions::HexaToInt(char high, char low) noexcept {

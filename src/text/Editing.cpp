@@ -35,15 +35,10 @@ std::size_t padding(std::string_view text, unsigned int width) noexcept {
     return length < width ? width - length : 0;
 }
 
-std::uint64_t wordAt(char const* bytes) noexcept {
+std::uint64_t reversedWordAt(char const* bytes) noexcept {
     std::uint64_t word = 0;
     std::memcpy(&word, bytes, sizeof word);
-    return word;
-}
-
-void putReversed(std::uint64_t word, char* bytes) noexcept {
-    word = __builtin_bswap64(word);
-    std::memcpy(bytes, &word, sizeof word);
+    return __builtin_bswap64(word);
 }
 
 /// Swaps words from both ends, and bytes once two words would overlap.
@@ -51,9 +46,10 @@ void reverse(char* begin, char* end) noexcept {
     constexpr std::ptrdiff_t wordSize = sizeof(std::uint64_t);
     while (end - begin >= 2 * wordSize) {
         end -= wordSize;
-        std::uint64_t const front = wordAt(begin);
-        putReversed(wordAt(end), begin);
-        putReversed(front, end);
+        std::uint64_t const newLast = reversedWordAt(begin);
+        std::uint64_t const newFirst = reversedWordAt(end);
+        std::memcpy(begin, &newFirst, sizeof newFirst);
+        std::memcpy(end, &newLast, sizeof newLast);
         begin += wordSize;
     }
     std::reverse(begin, end);

@@ -26,7 +26,7 @@ struct ByteText {
 
 using ByteTexts = std::array<ByteText, 256>;
 
-constexpr ByteTexts byteTexts(HexDigits const& digits) noexcept {
+constexpr ByteTexts byteTexts(std::string_view digits) noexcept {
     ByteTexts texts;
     for (unsigned int byte = 0; byte < texts.size(); ++byte) {
         std::uint32_t const value = byte < 128 ? byte : byte | 0xFFFFFF00;

@@ -16,14 +16,11 @@ using namespace internal;
 
 namespace {
 
-/// The digits of an integer, with room for its sign and its terminator.
-template <typename Integer>
-using Digits = std::array<char, std::numeric_limits<Integer>::digits10 + 3>;
-
-/// The caller guarantees the room.
+/// The caller guarantees the room, for a sign and all digits.
 template <typename Integer>
 void write(Integer v, char* out) noexcept {
-    *std::to_chars(out, out + Digits<Integer>{}.size(), v).ptr = '\0';
+    constexpr std::size_t longest = std::numeric_limits<Integer>::digits10 + 2;
+    *std::to_chars(out, out + longest, v).ptr = '\0';
 }
 
 }  // namespace

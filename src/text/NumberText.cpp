@@ -16,10 +16,6 @@ using namespace internal;
 
 namespace {
 
-int valueOf(char hexDigit) noexcept {
-    return hexDigitValues[static_cast<unsigned char>(hexDigit)];
-}
-
 /// Behind the prefix of hexadecimal text; null when there is none.
 char const* behindHexPrefix(char const* s) noexcept {
     return s[0] == '0' && s[1] == 'x' ? s + 2 : nullptr;
@@ -27,11 +23,9 @@ char const* behindHexPrefix(char const* s) noexcept {
 
 bool isHexNumber(char const* s) noexcept {
     char const* digits = behindHexPrefix(s);
-    if (digits == nullptr)
-        return false;
-    while (valueOf(*digits) >= 0)
+    while (digits != nullptr && hexDigitValue(*digits) >= 0)
         ++digits;
-    return *digits == '\0';
+    return digits != nullptr && *digits == '\0';
 }
 
 char const* behindDigits(char const* s) noexcept {
@@ -59,10 +53,10 @@ constexpr std::int64_t exactEnd = std::int64_t{1} << 53;
 double hexValue(char const* s) noexcept {
     std::int64_t exact = 0;
     int digit = 0;
-    for (; exact < exactEnd / 16 && (digit = valueOf(*s)) >= 0; ++s)
+    for (; exact < exactEnd / 16 && (digit = hexDigitValue(*s)) >= 0; ++s)
         exact = exact * 16 + digit;
     auto value = static_cast<double>(exact);
-    for (; (digit = valueOf(*s)) >= 0; ++s)
+    for (; (digit = hexDigitValue(*s)) >= 0; ++s)
         value = roundedProductPlus(value, 16.0, digit);
     return value;
 }
@@ -123,14 +117,14 @@ struct Part {
             char const* const begin = s;
             s = pointSeen ? digits.addFraction(s) : digits.addWhole(s);
             digitSeen = digitSeen || s != begin;
-            if (*s == '.')
+            if (*s == '.') {
                 see(pointSeen);
-            else if (*s == '-' || *s == '+')
+            } else if (*s == '-' || *s == '+') {
                 see(signSeen);
-            else
-                return s;
-            if (*s != '.')
                 sign = *s == '-' ? -1.0 : 1.0;
+            } else {
+                return s;
+            }
         }
     }
 

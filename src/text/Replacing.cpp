@@ -121,11 +121,9 @@ std::string removeCharacter(std::string_view text, char removed) {
     return kept;
 }
 
-/// `text` with its `count` bytes from `position` on replaced; a copy for the no-position value.
+/// `text` with its `count` bytes from `position` on replaced.
 std::string replacedAt(std::string_view text, std::size_t position, std::size_t count,
                        std::string_view replacement) {
-    if (position == std::string_view::npos)
-        return std::string(text);
     return internal::joined(text.substr(0, position), replacement, text.substr(position + count));
 }
 
@@ -149,9 +147,9 @@ std::string CharFunctions::ReplaceFirstOccurence(char const* s, char const* old,
     if (!isSearchable(old) || replacement == nullptr)
         return s;
     char const* const found = std::strstr(s, old);
-    return replacedAt(
-        s, found == nullptr ? std::string_view::npos : static_cast<std::size_t>(found - s),
-        std::strlen(old), replacement);
+    if (found == nullptr)
+        return s;
+    return replacedAt(s, static_cast<std::size_t>(found - s), std::strlen(old), replacement);
 }
 
 std::string CharFunctions::ReplaceLastOccurence(char const* s, char const* old,
@@ -159,8 +157,10 @@ std::string CharFunctions::ReplaceLastOccurence(char const* s, char const* old,
     if (!isSearchable(old) || replacement == nullptr)
         return s;
     std::string_view const text(s);
-    std::string_view const part(old);
-    return replacedAt(text, internal::LastOccurrence(part).in(text), part.size(), replacement);
+    std::size_t const position = internal::LastOccurrence(old).in(text);
+    if (position == std::string_view::npos)
+        return s;
+    return replacedAt(text, position, std::strlen(old), replacement);
 }
 
 std::string CharFunctions::RemoveAllOccurence(char const* s, char const* part) noexcept {

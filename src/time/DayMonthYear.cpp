@@ -3,11 +3,8 @@
 
 #include "qel/CharFunctions.h"
 
-#include <array>
 #include <charconv>
-#include <cstring>
-#include <optional>
-#include <string_view>
+#include <string>
 
 #include <string.h>
 
@@ -18,57 +15,35 @@ namespace {
 constexpr std::size_t lengthWithSeparators = 10;
 constexpr std::size_t lengthWithout = 8;
 
+constexpr std::size_t dayPosition = 0;
+constexpr std::size_t monthPosition = 2;
+constexpr std::size_t yearPosition = 4;
+
 constexpr int smallestYear = 100;
 
-using Characters = std::array<char, lengthWithout>;
-
-bool isSeparator(char c) noexcept {
-    return c == '/' || c == '\\';
+/// The eight characters of the fields; none where there are more or fewer. A text of eight keeps
+/// what slashes it has.
+std::string charactersOf(char const* text) noexcept {
+    std::string characters(text, strnlen(text, lengthWithSeparators + 1));
+    if (characters.length() == lengthWithSeparators)
+        std::erase_if(characters, [](char c) { return c == '/' || c == '\\'; });
+    if (characters.length() != lengthWithout)
+        characters.clear();
+    return characters;
 }
-
-/// The eight characters of the fields; nothing for any other number of them. A text of eight keeps
-/// what separators it has.
-std::optional<Characters> charactersOf(char const* text) noexcept {
-    std::size_t const length = strnlen(text, lengthWithSeparators + 1);
-    if (length != lengthWithout && length != lengthWithSeparators)
-        return {};
-    Characters characters = {};
-    std::size_t count = 0;
-    for (char const c : std::string_view(text, length)) {
-        if (length == lengthWithSeparators && isSeparator(c))
-            continue;
-        if (count == characters.size())
-            return {};
-        characters[count++] = c;
-    }
-    return count == characters.size() ? std::optional(characters) : std::nullopt;
-}
-
-/// A field of at most four characters.
-struct Place {
-    std::size_t begin;
-    std::size_t length;
-};
-
-constexpr Place dayPlace = {0, 2};
-constexpr Place monthPlace = {2, 2};
-constexpr Place yearPlace = {4, 4};
 
 /// The number that the C library's atoi reads; -1 for what is no whole number from 0 on. Such a
 /// field has a minus sign only in front of a zero.
-int readField(Characters const& characters, Place place) noexcept {
-    std::array<char, 5> field = {};
-    std::memcpy(field.data(), characters.data() + place.begin, place.length);
-    if (!CharFunctions::IsUnsignedInt(field.data()))
+int readField(std::string const& characters, std::size_t position) noexcept {
+    if (characters.empty())
+        return -1;
+    std::string const field(characters, position, position == yearPosition ? 4 : 2);
+    if (!CharFunctions::IsUnsignedInt(field.c_str()))
         return -1;
     int value = 0;
-    std::from_chars(field.data() + (field.front() == '+' ? 1 : 0), field.end(), value);
+    char const* const begin = field.data() + (field.front() == '+' ? 1 : 0);
+    std::from_chars(begin, field.data() + field.length(), value);
     return value;
-}
-
-int readField(char const* text, Place place) noexcept {
-    std::optional<Characters> const characters = charactersOf(text);
-    return characters ? readField(*characters, place) : -1;
 }
 
 /// The fields as numbers, -1 for one that is none.
@@ -84,25 +59,23 @@ struct DayMonthYear {
 };
 
 DayMonthYear read(char const* text) noexcept {
-    std::optional<Characters> const characters = charactersOf(text);
-    if (!characters)
-        return {};
-    return {readField(*characters, dayPlace), readField(*characters, monthPlace),
-            readField(*characters, yearPlace)};
+    std::string const characters = charactersOf(text);
+    return {readField(characters, dayPosition), readField(characters, monthPosition),
+            readField(characters, yearPosition)};
 }
 
 }  // namespace
 
 int Date::GetDay(char const* text) noexcept {
-    return readField(text, dayPlace);
+    return readField(charactersOf(text), dayPosition);
 }
 
 int Date::GetMonth(char const* text) noexcept {
-    return readField(text, monthPlace);
+    return readField(charactersOf(text), monthPosition);
 }
 
 int Date::GetYear(char const* text) noexcept {
-    return readField(text, yearPlace);
+    return readField(charactersOf(text), yearPosition);
 }
 
 bool Date::IsValidDate(char const* text) noexcept {
