@@ -78,8 +78,10 @@ bool isSearchable(char const* part) noexcept {
     return part != nullptr && !CharFunctions::IsEmpty(part);
 }
 
-/// Replaces the last occurrence until there is none.
-std::string replaceAll(char const* s, std::string_view part, std::string_view substitute) {
+/// Replaces the last occurrence until there is none. Not inlined: in a function that must not
+/// throw, GCC would let a lack of memory end the process without its name.
+[[gnu::noinline]] std::string replaceAll(char const* s, std::string_view part,
+                                         std::string_view substitute) {
     internal::LastOccurrence last(part);
     SplitText text(s);
     // No occurrence starts in the tail: it lies behind the place of the last occurrence. So the
