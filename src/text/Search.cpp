@@ -11,6 +11,8 @@
 #include <cstring>
 #include <string_view>
 
+#include <string.h>
+
 namespace qel {
 
 using namespace internal;
@@ -100,7 +102,9 @@ unsigned int CharFunctions::CountOccurence(char const* s, char c) noexcept {
 }
 
 bool CharFunctions::IsBoolean(char const* s) noexcept {
-    return std::find(booleanWords.begin(), booleanWords.end(), s) != booleanWords.end();
+    constexpr std::size_t longest = 5;
+    std::string_view const word(s, strnlen(s, longest + 1));
+    return std::find(booleanWords.begin(), booleanWords.end(), word) != booleanWords.end();
 }
 
 int CharFunctions::IndexOfFirstOccurence(char const* s, char const* set) noexcept {
