@@ -2,16 +2,30 @@
 // Plain ASCII ranges, so that an application's locale changes nothing.
 #include "qel/CharFunctions.h"
 
+#include "Ascii.h"
+#include "Blocks.h"
 #include "HexDigit.h"
-
-#include <algorithm>
 
 namespace qel {
 
 using namespace internal;
 
+namespace {
+
+/// The two cases of a letter differ in one bit, which is changed in the 26 letters from `first` on.
+std::string withOtherCase(std::string text, char first) noexcept {
+    constexpr std::uint8_t caseBit = 'a' ^ 'A';
+    applyToBlocks(text, [=](Block const& bytes) -> Block {
+        Block const isLetter = bytes - repeated(first) < Block{} + 26;
+        return bytes ^ (isLetter & (Block{} + caseBit));
+    });
+    return text;
+}
+
+}  // namespace
+
 bool CharFunctions::IsDigit(char c) noexcept {
-    return c >= '0' && c <= '9';
+    return isDigit(c);
 }
 
 bool CharFunctions::IsLetter(char c) noexcept {
@@ -23,31 +37,27 @@ bool CharFunctions::IsLetterOrDigit(char c) noexcept {
 }
 
 bool CharFunctions::IsLowerCase(char c) noexcept {
-    return c >= 'a' && c <= 'z';
+    return isLowerCase(c);
 }
 
 bool CharFunctions::IsUpperCase(char c) noexcept {
-    return c >= 'A' && c <= 'Z';
+    return isUpperCase(c);
 }
 
 char CharFunctions::ToUpperCase(char c) noexcept {
-    return IsLowerCase(c) ? static_cast<char>(c - 'a' + 'A') : c;
+    return upperCase(c);
 }
 
 char CharFunctions::ToLowerCase(char c) noexcept {
-    return IsUpperCase(c) ? static_cast<char>(c - 'A' + 'a') : c;
+    return lowerCase(c);
 }
 
 std::string CharFunctions::ToUpperCase(char const* s) noexcept {
-    std::string text(s);
-    std::transform(text.begin(), text.end(), text.begin(), [](char c) { return ToUpperCase(c); });
-    return text;
+    return withOtherCase(s, 'a');
 }
 
 std::string CharFunctions::ToLowerCase(char const* s) noexcept {
-    std::string text(s);
-    std::transform(text.begin(), text.end(), text.begin(), [](char c) { return ToLowerCase(c); });
-    return text;
+    return withOtherCase(s, 'A');
 }
 
 int CharFunctions::GetHexDigitValue(char c) noexcept {
@@ -55,9 +65,7 @@ int CharFunctions::GetHexDigitValue(char c) noexcept {
 }
 
 int CharFunctions::HexaToInt(char high, char low) noexcept {
-    int const highValue = GetHexDigitValue(high);
-    int const lowValue = GetHexDigitValue(low);
-    return highValue < 0 || lowValue < 0 ? -1 : highValue * 16 + lowValue;
+    return hexPairValue(high, low);
 }
 
 }  // namespace qel

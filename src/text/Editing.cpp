@@ -1,7 +1,11 @@
 // Building new text: joining, cutting, padding, reversing, trimming.
 #include "qel/CharFunctions.h"
 
+#include "Joined.h"
+
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <string_view>
 
 namespace qel {
@@ -9,28 +13,52 @@ namespace qel {
 namespace {
 
 /// What the C library's isspace accepts, whatever locale an application sets.
-constexpr std::string_view whiteSpace = " \t\n\v\f\r";
+bool isWhiteSpace(char c) noexcept {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
 
-std::string_view withoutLeadingSpaces(std::string_view text) noexcept {
-    text.remove_prefix(std::min(text.find_first_not_of(whiteSpace), text.size()));
-    return text;
+char const* withoutLeadingSpaces(char const* s) noexcept {
+    while (isWhiteSpace(*s))
+        ++s;
+    return s;
 }
 
 std::string_view withoutTrailingSpaces(std::string_view text) noexcept {
-    // Where all is white space, the no-position value plus one is 0.
-    return text.substr(0, text.find_last_not_of(whiteSpace) + 1);
+    while (!text.empty() && isWhiteSpace(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
-/// How many bytes a padded `s` has more than `s`.
-std::size_t padding(std::string const& s, unsigned int width) noexcept {
-    auto const length = static_cast<unsigned int>(s.size());
+/// How many bytes a padded `text` has more than `text`.
+std::size_t padding(std::string_view text, unsigned int width) noexcept {
+    auto const length = static_cast<unsigned int>(text.size());
     return length < width ? width - length : 0;
+}
+
+std::uint64_t reversedWordAt(char const* bytes) noexcept {
+    std::uint64_t word = 0;
+    std::memcpy(&word, bytes, sizeof word);
+    return __builtin_bswap64(word);
+}
+
+/// Swaps words from both ends, and bytes once two words would overlap.
+void reverse(char* begin, char* end) noexcept {
+    constexpr std::ptrdiff_t wordSize = sizeof(std::uint64_t);
+    while (end - begin >= 2 * wordSize) {
+        end -= wordSize;
+        std::uint64_t const newLast = reversedWordAt(begin);
+        std::uint64_t const newFirst = reversedWordAt(end);
+        std::memcpy(begin, &newFirst, sizeof newFirst);
+        std::memcpy(end, &newLast, sizeof newLast);
+        begin += wordSize;
+    }
+    std::reverse(begin, end);
 }
 
 }  // namespace
 
 std::string CharFunctions::Concatenate(char const* a, char const* b) noexcept {
-    return std::string(a).append(b);
+    return internal::joined(a, b);
 }
 
 std::string CharFunctions::SubStr(char const* s, unsigned int start, unsigned int count) noexcept {
@@ -38,18 +66,27 @@ std::string CharFunctions::SubStr(char const* s, unsigned int start, unsigned in
 }
 
 std::string CharFunctions::PadLeftWith(char const* s, unsigned int width, char fill) noexcept {
-    std::string text(s);
-    return text.insert(0, padding(text, width), fill);
+    std::string_view const text(s);
+    std::size_t const added = padding(text, width);
+    std::string padded;
+    padded.reserve(added + text.size());
+    padded.append(added, fill).append(text);
+    return padded;
 }
 
 std::string CharFunctions::PadWith(char const* s, unsigned int width, char fill) noexcept {
-    std::string text(s);
-    return text.append(padding(text, width), fill);
+    std::string_view const text(s);
+    std::size_t const added = padding(text, width);
+    std::string padded;
+    padded.reserve(text.size() + added);
+    padded.append(text).append(added, fill);
+    return padded;
 }
 
 std::string CharFunctions::Reverse(char const* s) noexcept {
-    std::string_view const text(s);
-    return {text.rbegin(), text.rend()};
+    std::string text(s);
+    reverse(text.data(), text.data() + text.size());
+    return text;
 }
 
 std::string CharFunctions::RemoveLeadingSpaces(char const* s) noexcept {

@@ -8,9 +8,21 @@
 
 namespace qel::internal {
 
+namespace {
+
+locale_t cLocale() noexcept {
+    static locale_t const locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    return locale;
+}
+
+}  // namespace
+
 int compareFolded(char const* a, char const* b) noexcept {
-    static locale_t const cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
-    return strcasecmp_l(a, b, cLocale);
+    return strcasecmp_l(a, b, cLocale());
+}
+
+int compareFolded(char const* a, char const* b, std::size_t n) noexcept {
+    return strncasecmp_l(a, b, n, cLocale());
 }
 
 }  // namespace qel::internal

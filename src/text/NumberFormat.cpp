@@ -1,35 +1,32 @@
 // Text from numbers. Integers are written without the C library, and so without a locale.
 #include "qel/CharFunctions.h"
 
+#include "HexDigit.h"
+
 #include <array>
 #include <charconv>
+#include <cstdint>
 #include <cstdio>
 #include <limits>
+#include <string>
 
 namespace qel {
 
+using namespace internal;
+
 namespace {
 
-/// The digits of an integer, with room for its sign and its terminator.
-template <typename Integer>
-using Digits = std::array<char, std::numeric_limits<Integer>::digits10 + 3>;
-
-template <typename Integer>
-std::string stringOf(Integer v, int base = 10) noexcept {
-    Digits<Integer> digits;
-    return {digits.data(), std::to_chars(digits.data(), digits.end(), v, base).ptr};
-}
-
-/// The caller guarantees the room.
+/// The caller guarantees the room, for a sign and all digits.
 template <typename Integer>
 void write(Integer v, char* out) noexcept {
-    *std::to_chars(out, out + Digits<Integer>{}.size(), v).ptr = '\0';
+    constexpr std::size_t longest = std::numeric_limits<Integer>::digits10 + 2;
+    *std::to_chars(out, out + longest, v).ptr = '\0';
 }
 
 }  // namespace
 
 std::string CharFunctions::Int2String(int v) noexcept {
-    return stringOf(v);
+    return std::to_string(v);
 }
 
 void CharFunctions::Int2Char(int v, char* out) noexcept {
@@ -45,7 +42,7 @@ void CharFunctions::UnsignedInt2Char(unsigned int v, char* out) noexcept {
 }
 
 std::string CharFunctions::Long2String(long v) noexcept {
-    return stringOf(v);
+    return std::to_string(v);
 }
 
 void CharFunctions::Long2Char(long v, char* out) noexcept {
@@ -53,8 +50,10 @@ void CharFunctions::Long2Char(long v, char* out) noexcept {
 }
 
 std::string CharFunctions::Int2Hexa(int v, bool upperCase) noexcept {
-    std::string const digits = stringOf(static_cast<unsigned int>(v), 16);
-    return upperCase ? ToUpperCase(digits.c_str()) : digits;
+    auto const value = static_cast<std::uint32_t>(v);
+    std::string text(hexLength(value), '0');
+    writeHex(value, text.data(), text.size(), upperCase ? upperCaseHexDigits : lowerCaseHexDigits);
+    return text;
 }
 
 std::string CharFunctions::Float2String(double v, char const* format) noexcept {

@@ -3,6 +3,8 @@
 // something, and only bytes that it passed are moved.
 #include "qel/CharFunctions.h"
 
+#include "Blocks.h"
+#include "Joined.h"
 #include "LastOccurrence.h"
 
 #include <algorithm>
@@ -76,9 +78,11 @@ bool isSearchable(char const* part) noexcept {
     return part != nullptr && !CharFunctions::IsEmpty(part);
 }
 
-/// Replaces the last occurrence until there is none.
-std::string replaceAll(char const* s, std::string_view part, std::string_view substitute) {
-    internal::LastOccurrence const last(part);
+/// Replaces the last occurrence until there is none. Not inlined: in a function that must not
+/// throw, GCC would let a lack of memory end the process without its name.
+[[gnu::noinline]] std::string replaceAll(char const* s, std::string_view part,
+                                         std::string_view substitute) {
+    internal::LastOccurrence last(part);
     SplitText text(s);
     // No occurrence starts in the tail: it lies behind the place of the last occurrence. So the
     // next one starts in the head and reaches into the tail by less than its own length.
@@ -92,12 +96,37 @@ std::string replaceAll(char const* s, std::string_view part, std::string_view su
     return std::move(text).joined();
 }
 
-/// One character by another brings nothing about, in any order. Every byte is written: that has no
-/// branch to be mispredicted, and can be done for many at once.
+bool isOneCharacter(char const* s) noexcept {
+    return s[0] != '\0' && s[1] == '\0';
+}
+
+// One character replaced by another, or removed, brings nothing about: any order will do.
+
 std::string replaceCharacter(std::string text, char old, char replacement) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [=](char c) { return c == old ? replacement : c; });
+    using namespace internal;
+    applyToBlocks(text, [=](Block const& bytes) -> Block {
+        Block const isOld = bytes == repeated(old);
+        return (bytes & ~isOld) | (repeated(replacement) & isOld);
+    });
     return text;
+}
+
+/// Every byte is written, and stays where it is kept: that has no branch to be mispredicted.
+std::string removeCharacter(std::string_view text, char removed) {
+    std::string kept(text.size(), '\0');
+    char* end = kept.data();
+    for (char const c : text) {
+        *end = c;
+        end += c != removed ? 1 : 0;
+    }
+    kept.resize(static_cast<std::size_t>(end - kept.data()));
+    return kept;
+}
+
+/// `text` with its `count` bytes from `position` on replaced.
+std::string replacedAt(std::string_view text, std::size_t position, std::size_t count,
+                       std::string_view replacement) {
+    return internal::joined(text.substr(0, position), replacement, text.substr(position + count));
 }
 
 }  // namespace
@@ -108,32 +137,32 @@ std::string CharFunctions::Replace(char const* s, char const* old,
         return s;
     assert((!Contains(replacement, old) || !Contains(s, old))
            && "the replacement contains the old text: this never returns");
-    std::string_view const part(old);
-    std::string_view const substitute(replacement);
-    if (part.size() == 1 && substitute.size() == 1 && part != substitute)
-        return replaceCharacter(s, part.front(), substitute.front());
-    return replaceAll(s, part, substitute);
+    if (isOneCharacter(old) && isOneCharacter(replacement) && *old != *replacement)
+        return replaceCharacter(s, *old, *replacement);
+    if (isOneCharacter(old) && IsEmpty(replacement))
+        return removeCharacter(s, *old);
+    return replaceAll(s, old, replacement);
 }
 
 std::string CharFunctions::ReplaceFirstOccurence(char const* s, char const* old,
                                                  char const* replacement) noexcept {
-    std::string text(s);
     if (!isSearchable(old) || replacement == nullptr)
-        return text;
-    if (char const* const found = std::strstr(s, old))
-        text.replace(static_cast<std::size_t>(found - s), std::strlen(old), replacement);
-    return text;
+        return s;
+    char const* const found = std::strstr(s, old);
+    if (found == nullptr)
+        return s;
+    return replacedAt(s, static_cast<std::size_t>(found - s), std::strlen(old), replacement);
 }
 
 std::string CharFunctions::ReplaceLastOccurence(char const* s, char const* old,
                                                 char const* replacement) noexcept {
-    std::string text(s);
     if (!isSearchable(old) || replacement == nullptr)
-        return text;
+        return s;
+    std::string_view const text(s);
     std::size_t const position = internal::LastOccurrence(old).in(text);
-    if (position != std::string::npos)
-        text.replace(position, std::strlen(old), replacement);
-    return text;
+    if (position == std::string_view::npos)
+        return s;
+    return replacedAt(text, position, std::strlen(old), replacement);
 }
 
 std::string CharFunctions::RemoveAllOccurence(char const* s, char const* part) noexcept {

@@ -1,21 +1,70 @@
 // What a string holds: emptiness, length, counts, positions, prefixes and suffixes.
 #include "qel/CharFunctions.h"
 
+#include "Ascii.h"
+#include "Blocks.h"
+#include "ByteSet.h"
+#include "FoldedComparison.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
 #include <string_view>
 
+#include <string.h>
+
 namespace qel {
+
+using namespace internal;
 
 namespace {
 
 constexpr auto booleanWords =
     std::to_array<std::string_view>({"True", "true", "TRUE", "False", "false", "FALSE", "0", "1"});
 
-/// The no-position value of a search becomes -1.
-int asIndex(std::size_t position) noexcept {
-    return position == std::string_view::npos ? -1 : static_cast<int>(position);
+/// So many members of a set are searched for one by one.
+constexpr std::size_t fewMembers = 8;
+
+bool hasFewMembers(char const* set) noexcept {
+    std::size_t count = 0;
+    while (count <= fewMembers && set[count] != '\0')
+        ++count;
+    return count <= fewMembers;
+}
+
+/// The position behind the last byte that is in `set`; 0 when there is none.
+std::size_t behindLastOfFew(char const* s, char const* set) noexcept {
+    std::size_t end = 0;
+    for (; *set != '\0'; ++set) {
+        if (char const* const found = std::strrchr(s, *set))
+            end = std::max(end, static_cast<std::size_t>(found - s) + 1);
+    }
+    return end;
+}
+
+/// So many that the hits at one place of a block still fit in a byte.
+constexpr std::size_t countedTogether = 255 * blockSize;
+
+/// How often `c`, which is not zero, occurs in up to 4080 bytes.
+std::size_t countIn(std::string_view text, char c) noexcept {
+    Block hits = {};
+    // A hit is a byte of ones, which is -1.
+    for (; text.size() >= blockSize; text.remove_prefix(blockSize))
+        hits -= static_cast<Block>(blockAt(text.data()) == repeated(c));
+    std::size_t const inRest = static_cast<std::size_t>(std::count(text.begin(), text.end(), c));
+    return sumOfBytes(hits) + inRest;
+}
+
+/// An empty text ends with everything, as File needs.
+template <typename Fold>
+bool endsWith(char const* s, char const* suffix, Fold fold) noexcept {
+    std::size_t const length = std::strlen(s);
+    if (length == 0)
+        return true;
+    char const last = fold(s[length - 1]);
+    while (*suffix != '\0' && fold(*suffix) != last)
+        ++suffix;
+    return *suffix != '\0';
 }
 
 }  // namespace
@@ -29,32 +78,44 @@ unsigned int CharFunctions::Length(char const* s) noexcept {
 }
 
 bool CharFunctions::StartsWithDigit(char const* s) noexcept {
-    return s != nullptr && IsDigit(*s);
+    return s != nullptr && isDigit(*s);
 }
 
 bool CharFunctions::ContainsExtendedAsciiCharacters(char const* s) noexcept {
-    std::string_view const text(s);
-    return std::any_of(text.begin(), text.end(),
-                       [](char c) { return static_cast<unsigned char>(c) >= 128; });
+    std::size_t const length = std::strlen(s);
+    Block bits = {};
+    std::size_t i = 0;
+    for (; length - i >= blockSize; i += blockSize)
+        bits |= blockAt(s + i);
+    bits |= blockAt(s + i, length - i);
+    return any(bits & repeated('\x80'));
 }
 
 unsigned int CharFunctions::CountOccurence(char const* s, char c) noexcept {
-    if (s == nullptr)
+    if (s == nullptr || c == '\0')
         return 0;
-    std::string_view const text(s);
-    return static_cast<unsigned int>(std::count(text.begin(), text.end(), c));
+    std::size_t const length = std::strlen(s);
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < length; i += countedTogether)
+        count += countIn({s + i, std::min(length - i, countedTogether)}, c);
+    return static_cast<unsigned int>(count);
 }
 
 bool CharFunctions::IsBoolean(char const* s) noexcept {
-    return std::find(booleanWords.begin(), booleanWords.end(), s) != booleanWords.end();
+    constexpr std::size_t longest = 5;
+    std::string_view const word(s, strnlen(s, longest + 1));
+    return std::find(booleanWords.begin(), booleanWords.end(), word) != booleanWords.end();
 }
 
 int CharFunctions::IndexOfFirstOccurence(char const* s, char const* set) noexcept {
-    return asIndex(std::string_view(s).find_first_of(set));
+    char const* const found = std::strpbrk(s, set);
+    return found == nullptr ? -1 : static_cast<int>(found - s);
 }
 
 int CharFunctions::IndexOfLastOccurence(char const* s, char const* set) noexcept {
-    return asIndex(std::string_view(s).find_last_of(set));
+    std::size_t const end =
+        hasFewMembers(set) ? behindLastOfFew(s, set) : ByteSet(set).behindLastIn(s);
+    return static_cast<int>(end) - 1;
 }
 
 bool CharFunctions::Contains(char const* s, char const* part) noexcept {
@@ -66,19 +127,15 @@ bool CharFunctions::StartsWith(char const* s, char const* prefix) noexcept {
 }
 
 bool CharFunctions::EndsWith(char const* s, char const* suffix) noexcept {
-    if (suffix == nullptr)
-        return false;
-    // For an empty text both sides are the largest size: it ends with everything, as File needs.
-    std::string_view const text(s);
-    return text.find_last_of(suffix) == text.length() - 1;
+    return suffix != nullptr && endsWith(s, suffix, [](char c) { return c; });
 }
 
 bool CharFunctions::StartsWithIgnoreCase(char const* s, char const* prefix) noexcept {
-    return StartsWith(ToLowerCase(s).c_str(), ToLowerCase(prefix).c_str());
+    return compareFolded(s, prefix, std::strlen(prefix)) == 0;
 }
 
 bool CharFunctions::EndsWithIgnoreCase(char const* s, char const* suffix) noexcept {
-    return EndsWith(ToLowerCase(s).c_str(), ToLowerCase(suffix).c_str());
+    return endsWith(s, suffix, [](char c) { return lowerCase(c); });
 }
 
 }  // namespace qel

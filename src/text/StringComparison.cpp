@@ -39,7 +39,8 @@ void CharFunctions::Copy(char* destination, char const* source) noexcept {
 void CharFunctions::Copy(char* destination, char const* source, unsigned int n) noexcept {
     std::size_t const length = strnlen(source, n);
     std::memmove(destination, source, length);
-    std::memset(destination + length, 0, n - length);
+    if (length < n)
+        std::memset(destination + length, 0, n - length);
 }
 
 void CharFunctions::Append(char* destination, char const* source) noexcept {

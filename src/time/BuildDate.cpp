@@ -41,14 +41,19 @@ std::string Date::DATEMacroToDDMMYYYY(char const* text) noexcept {
 }
 
 std::string Date::DDMMYYYYToDATEMacro(char const* text) noexcept {
-    if (text == nullptr || !IsValidDate(text))
+    if (text == nullptr)
         return {};
-    std::tm const fields = internal::ConvertMillisecondsToLocalTime(Date(text).msSinceEpoch);
+    // A date that can be read is noon of some day, which is never the epoch.
+    Date const noon(text);
+    if (noon == Date())
+        return {};
+    std::tm const fields = internal::ConvertMillisecondsToLocalTime(noon.msSinceEpoch);
     auto const month = static_cast<std::size_t>(fields.tm_mon);
     if (month >= monthNames.size())
         return {};
-    return std::string(monthNames[month]) + ' ' + twoDigits(fields.tm_mday) + ' '
-           + CharFunctions::Int2String(fields.tm_year + 1900);
+    std::string result(monthNames[month]);
+    result.append(1, ' ').append(twoDigits(fields.tm_mday)).append(1, ' ');
+    return result += CharFunctions::Int2String(fields.tm_year + 1900);
 }
 
 }  // namespace qel

@@ -15,7 +15,9 @@ constexpr long long libraryBegin_s = 86400;     // 1970-01-02T00:00:00Z
 constexpr long long libraryEnd_s = 2145916800;  // 2038-01-01T00:00:00Z
 constexpr long long year1971_s = 31536000;      // 1971-01-01T00:00:00Z
 
-/// How far local time was ahead of UTC on 1 January 1971, daylight saving of that day included.
+/// How far local time was ahead of UTC on 1 January 1971, daylight saving of that day included. Not
+/// kept: mktime sees a change of TZ, or of the system's zone, which nothing that is kept here
+/// would.
 int offsetOf1971_s() noexcept {
     Date const localMidnight(1971, 1, 1, 0, 0, 0, 0);
     return static_cast<int>(year1971_s - localMidnight.GetMillisecondsSinceEpoch() / 1000);

@@ -3,21 +3,47 @@
 
 #include "qel/CharFunctions.h"
 
+#include <charconv>
+#include <string>
+
+#include <string.h>
+
 namespace qel {
 
 namespace {
 
-constexpr unsigned int lengthWithSeparators = 10;
-constexpr unsigned int lengthWithout = 8;
+constexpr std::size_t lengthWithSeparators = 10;
+constexpr std::size_t lengthWithout = 8;
+
+constexpr std::size_t dayPosition = 0;
+constexpr std::size_t monthPosition = 2;
+constexpr std::size_t yearPosition = 4;
 
 constexpr int smallestYear = 100;
 
-/// A text of any other length keeps its separators.
-std::string withoutSeparators(char const* text) noexcept {
-    if (CharFunctions::Length(text) != lengthWithSeparators)
-        return text;
-    std::string const withoutSlashes = CharFunctions::RemoveAllOccurence(text, "/");
-    return CharFunctions::RemoveAllOccurence(withoutSlashes.c_str(), "\\");
+/// The eight characters of the fields; none where there are more or fewer. A text of eight keeps
+/// what slashes it has.
+std::string charactersOf(char const* text) noexcept {
+    std::string characters(text, strnlen(text, lengthWithSeparators + 1));
+    if (characters.length() == lengthWithSeparators)
+        std::erase_if(characters, [](char c) { return c == '/' || c == '\\'; });
+    if (characters.length() != lengthWithout)
+        characters.clear();
+    return characters;
+}
+
+/// The number that the C library's atoi reads; -1 for what is no whole number from 0 on. Such a
+/// field has a minus sign only in front of a zero.
+int readField(std::string const& characters, std::size_t position) noexcept {
+    if (characters.empty())
+        return -1;
+    std::string const field(characters, position, position == yearPosition ? 4 : 2);
+    if (!CharFunctions::IsUnsignedInt(field.c_str()))
+        return -1;
+    int value = 0;
+    char const* const begin = field.data() + (field.front() == '+' ? 1 : 0);
+    std::from_chars(begin, field.data() + field.length(), value);
+    return value;
 }
 
 /// The fields as numbers, -1 for one that is none.
@@ -32,31 +58,24 @@ struct DayMonthYear {
     }
 };
 
-int readField(std::string const& field) noexcept {
-    return CharFunctions::IsUnsignedInt(field.c_str()) ? CharFunctions::GetIntValue(field.c_str())
-                                                       : -1;
-}
-
 DayMonthYear read(char const* text) noexcept {
-    std::string const working = withoutSeparators(text);
-    if (working.length() != lengthWithout)
-        return {};
-    return {readField(working.substr(0, 2)), readField(working.substr(2, 2)),
-            readField(working.substr(4, 4))};
+    std::string const characters = charactersOf(text);
+    return {readField(characters, dayPosition), readField(characters, monthPosition),
+            readField(characters, yearPosition)};
 }
 
 }  // namespace
 
 int Date::GetDay(char const* text) noexcept {
-    return read(text).day;
+    return readField(charactersOf(text), dayPosition);
 }
 
 int Date::GetMonth(char const* text) noexcept {
-    return read(text).month;
+    return readField(charactersOf(text), monthPosition);
 }
 
 int Date::GetYear(char const* text) noexcept {
-    return read(text).year;
+    return readField(charactersOf(text), yearPosition);
 }
 
 bool Date::IsValidDate(char const* text) noexcept {

@@ -1,6 +1,8 @@
 // Single characters: classes, case, hexadecimal digits.
 #include "qel/CharFunctions.h"
 
+#include "model/PlainTextFunctions.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -56,6 +58,17 @@ TEST(Characters, StringsChangeCaseByteByByteAndKeepExtendedBytes) {
     EXPECT_EQ(CharFunctions::ToLowerCase("A\xC9Z[1"), "a\xC9z[1");
     EXPECT_EQ(CharFunctions::ToUpperCase(""), "");
     EXPECT_EQ(CharFunctions::ToLowerCase(""), "");
+}
+
+TEST(Characters, EveryByteOfTextsOfAllLengthsChangesCase) {
+    std::string allBytes;
+    for (int byte = 1; byte < byteCount; ++byte)
+        allBytes += static_cast<char>(byte);
+    for (std::size_t length = 0; length <= allBytes.size(); ++length) {
+        std::string const text = allBytes.substr(allBytes.size() - length);
+        EXPECT_EQ(CharFunctions::ToUpperCase(text.c_str()), model::upperCase(text)) << length;
+        EXPECT_EQ(CharFunctions::ToLowerCase(text.c_str()), model::lowerCase(text)) << length;
+    }
 }
 
 TEST(Characters, HexDigitValueOfEveryByte) {

@@ -1,6 +1,8 @@
 // Building new text: joining, cutting, padding, reversing, trimming.
 #include "qel/CharFunctions.h"
 
+#include "model/PlainTextFunctions.h"
+
 #include <gtest/gtest.h>
 
 #include <cctype>
@@ -73,6 +75,14 @@ TEST(Editing, ReverseGoesByteByByte) {
                                                      "fac");
     EXPECT_EQ(CharFunctions::Reverse("a"), "a");
     EXPECT_EQ(CharFunctions::Reverse(""), "");
+}
+
+TEST(Editing, ReverseTakesTextsOfAllLengths) {
+    std::string text;
+    for (int length = 0; length < 80; ++length) {
+        EXPECT_EQ(CharFunctions::Reverse(text.c_str()), model::reverse(text));
+        text += static_cast<char>('0' + length);
+    }
 }
 
 TEST(Editing, TrimmingTakesItsSideOnly) {

@@ -1,9 +1,12 @@
 // The hexadecimal text of a byte string, and back.
 #include "qel/CharFunctions.h"
 
+#include "model/PlainTextFunctions.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <random>
 #include <string>
 
 namespace {
@@ -63,6 +66,29 @@ TEST(HexText, ReadingUndoesWritingForBytes16To127Only) {
             std::string const hex = CharFunctions::AsciiToHexaString(s.c_str(), upperCase);
             EXPECT_EQ(CharFunctions::HexaStringToAscii(hex.c_str()) == s, byte >= 16 && byte < 128)
                 << byte;
+        }
+    }
+}
+
+TEST(HexText, TextsOfAllLengthsAreWrittenAsThePlainStepsDo) {
+    std::mt19937 random(1);
+    for (std::size_t length = 0; length < 200; ++length) {
+        std::string s(length, ' ');
+        for (char& c : s)
+            c = static_cast<char>(1 + random() % 255);
+        for (bool const upperCase : {false, true})
+            ASSERT_EQ(CharFunctions::AsciiToHexaString(s.c_str(), upperCase),
+                      model::hexText(s, upperCase))
+                << testing::PrintToString(s);
+    }
+}
+
+TEST(HexText, EveryPairOfBytesIsReadOrRefused) {
+    for (int high = 1; high < 256; ++high) {
+        for (int low = 1; low < 256; ++low) {
+            std::string const hex = {'4', '1', static_cast<char>(high), static_cast<char>(low)};
+            ASSERT_EQ(CharFunctions::HexaStringToAscii(hex.c_str()), model::bytesOfHexText(hex))
+                << high << " and " << low;
         }
     }
 }

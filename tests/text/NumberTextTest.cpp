@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <cfenv>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -168,6 +169,76 @@ TEST(NumberText, RandomTextsHaveTheValueOfThePlainStepsToTheBit) {
         ASSERT_EQ(bitsOf(CharFunctions::AsciiToDouble(s.c_str())),
                   bitsOf(model::decimalValue(s.c_str())))
             << '"' << s << '"';
+    }
+}
+
+/// A number of so many digits that single steps are rounded, with a point somewhere or without one.
+std::string randomLongNumber(std::mt19937& random) {
+    std::string text(1 + random() % 400, ' ');
+    for (char& c : text)
+        c = static_cast<char>('0' + random() % 10);
+    if (random() % 2 == 0)
+        text[random() % text.size()] = '.';
+    if (random() % 2 == 0)
+        text[random() % text.size()] = '-';
+    return text;
+}
+
+void expectPlainValue(std::string const& s) {
+    ASSERT_EQ(bitsOf(CharFunctions::AsciiToDouble(s.c_str())), bitsOf(model::value(s))) << s;
+}
+
+TEST(NumberText, LongTextsHaveTheValueOfThePlainStepsHoweverDoublesAreRounded) {
+    std::mt19937 random(2);
+    for (int const mode : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+        ASSERT_EQ(std::fesetround(mode), 0);
+        for (int i = 0; i < 2000; ++i)
+            expectPlainValue(randomLongNumber(random));
+        std::fesetround(FE_TONEAREST);
+    }
+}
+
+TEST(NumberText, WholeNumbersAround2To53HaveTheValueOfThePlainSteps) {
+    for (char const* s :
+         {"900719925474098", "9007199254740989", "900719925474099", "9007199254740990",
+          "9007199254740992", "9007199254740993", "9007199254740995", "90071992547409931",
+          "-9007199254740993", "90071992547-40993", "9007199254740993.", "9007199254740993.5",
+          "0x1fffffffffffff", "0x20000000000000", "0x20000000000001", "0x3ffffffffffffe",
+          "0x3fffffffffffff", "0x200000000000011"})
+        expectPlainValue(s);
+}
+
+TEST(NumberText, HexadecimalTextsOfAllLengthsHaveTheValueOfThePlainSteps) {
+    for (std::size_t length = 0; length < 300; ++length) {
+        expectPlainValue("0x" + std::string(length, 'f'));
+        expectPlainValue("0x1" + std::string(length, '0') + "g");
+    }
+}
+
+TEST(NumberText, DigitsBehindInfinityAndBehindTheLastFractionAreStillPartOfTheText) {
+    std::string const nines(400, '9');
+    expectPlainValue(nines + "-");
+    expectPlainValue('.' + nines + "e2");
+    expectPlainValue('1' + nines + "e-500");
+    EXPECT_TRUE(CharFunctions::IsNumber((nines + '.' + nines).c_str()));
+    EXPECT_FALSE(CharFunctions::IsInt(nines.c_str()));
+    EXPECT_TRUE(CharFunctions::IsInt(("7." + std::string(400, '0')).c_str()));
+}
+
+TEST(NumberText, RandomTextsAreIntegersWhereThePlainStepsSaySo) {
+    constexpr double highest = std::numeric_limits<unsigned int>::max();
+    std::mt19937 random(3);
+    for (int i = 0; i < 300000; ++i) {
+        std::string s(random() % 6, ' ');
+        for (char& c : s)
+            c = "0123-+.eExf "[random() % 12];
+        if (random() % 2 == 0)
+            s = "21474836" + s;
+        ASSERT_EQ(CharFunctions::IsNumber(s.c_str()), model::isNumber(s)) << s;
+        ASSERT_EQ(CharFunctions::IsInt(s.c_str()), model::isWholeNumber(s, -0x1p31, 0x1p31 - 1))
+            << s;
+        ASSERT_EQ(CharFunctions::IsUnsignedInt(s.c_str()), model::isWholeNumber(s, 0, highest))
+            << s;
     }
 }
 

@@ -27,6 +27,20 @@ TEST(Replacing, ReplaceTakesAllOccurrences) {
     EXPECT_EQ(CharFunctions::Replace("a/b//c", "/", "\\"), "a\\b\\\\c");
 }
 
+TEST(Replacing, OneCharacterIsReplacedAtEveryPlaceOfTextsOfAllLengths) {
+    for (std::size_t length = 0; length < 70; ++length) {
+        std::string text(length, 'a');
+        for (char& c : text) {
+            c = '\xE9';
+            EXPECT_EQ(CharFunctions::Replace(text.c_str(), "\xE9", "/"),
+                      model::replace(text, "\xE9", "/", length));
+            EXPECT_EQ(CharFunctions::Replace(text.c_str(), "a", "\xE9"),
+                      std::string(length, '\xE9'));
+            c = 'a';
+        }
+    }
+}
+
 TEST(Replacing, ReplaceBeginsWithTheLastOccurrence) {
     EXPECT_EQ(CharFunctions::Replace("aaa", "aa", "b"), "ab");
 }

@@ -108,10 +108,16 @@ TEST(Search, AnEmptyTextEndsWithEverySuffixButNull) {
 TEST(Search, IgnoreCaseFoldsBothSides) {
     EXPECT_TRUE(CharFunctions::StartsWithIgnoreCase("ABC", "aB"));
     EXPECT_FALSE(CharFunctions::StartsWithIgnoreCase("ABC", "b"));
+    EXPECT_FALSE(CharFunctions::StartsWithIgnoreCase("AB", "abc"));
+    EXPECT_TRUE(CharFunctions::StartsWithIgnoreCase("AB", ""));
+    EXPECT_TRUE(CharFunctions::StartsWithIgnoreCase("", ""));
+    EXPECT_FALSE(CharFunctions::StartsWithIgnoreCase("[", "{"));
     EXPECT_TRUE(CharFunctions::EndsWithIgnoreCase("abC", "Xc"));
     EXPECT_TRUE(CharFunctions::EndsWithIgnoreCase("abc", "C"));
     EXPECT_FALSE(CharFunctions::EndsWithIgnoreCase("abc", "AB"));
+    EXPECT_FALSE(CharFunctions::EndsWithIgnoreCase("abc", ""));
     EXPECT_TRUE(CharFunctions::EndsWithIgnoreCase("", ""));
+    EXPECT_TRUE(CharFunctions::EndsWithIgnoreCase("", "x"));
 }
 
 TEST(Search, IgnoreCaseLeavesExtendedBytesAlone) {
@@ -134,6 +140,81 @@ TEST(Search, PrefixAndSuffixAgreeWithThePlainSteps) {
         SCOPED_TRACE('"' + s + "\", \"" + other + '"');
         EXPECT_EQ(CharFunctions::StartsWith(s.c_str(), other.c_str()), model::startsWith(s, other));
         EXPECT_EQ(CharFunctions::EndsWith(s.c_str(), other.c_str()), model::endsWith(s, other));
+        std::string const lowerS = model::lowerCase(s);
+        std::string const lowerOther = model::lowerCase(other);
+        EXPECT_EQ(CharFunctions::StartsWithIgnoreCase(s.c_str(), other.c_str()),
+                  model::startsWith(lowerS, lowerOther));
+        EXPECT_EQ(CharFunctions::EndsWithIgnoreCase(s.c_str(), other.c_str()),
+                  model::endsWith(lowerS, lowerOther));
+    }
+}
+
+/// Bytes of all kinds but the terminator.
+std::string randomBytes(std::mt19937& random, std::size_t length) {
+    std::string text(length, ' ');
+    for (char& c : text)
+        c = static_cast<char>(1 + random() % 255);
+    return text;
+}
+
+TEST(Search, AnExtendedByteIsFoundAtEveryPlaceOfTextsOfAllLengths) {
+    for (std::size_t length = 0; length < 70; ++length) {
+        std::string text(length, '\x7F');
+        EXPECT_FALSE(CharFunctions::ContainsExtendedAsciiCharacters(text.c_str())) << length;
+        for (char& c : text) {
+            c = '\x80';
+            EXPECT_TRUE(CharFunctions::ContainsExtendedAsciiCharacters(text.c_str())) << length;
+            c = '\x7F';
+        }
+    }
+}
+
+TEST(Search, CountsInTextsOfAllLengthsAgreeWithThePlainSteps) {
+    std::mt19937 random(2);
+    for (std::size_t length = 0; length < 200; ++length) {
+        std::string text = randomBytes(random, length);
+        for (char& c : text)
+            c = random() % 2 == 0 ? c : '\xE9';
+        ASSERT_EQ(CharFunctions::CountOccurence(text.c_str(), '\xE9'), model::count(text, '\xE9'))
+            << length;
+        ASSERT_EQ(CharFunctions::CountOccurence(text.c_str(), '\0'), 0U) << length;
+    }
+}
+
+TEST(Search, CountsGoBeyondWhatABytePerPlaceHolds) {
+    for (std::size_t const blocks : {254U, 255U, 256U, 510U, 511U, 5000U}) {
+        for (std::size_t const rest : {0U, 1U, 15U}) {
+            std::string const text(16 * blocks + rest, 'a');
+            EXPECT_EQ(CharFunctions::CountOccurence(text.c_str(), 'a'), text.size());
+            EXPECT_EQ(CharFunctions::CountOccurence(text.c_str(), 'b'), 0U);
+        }
+    }
+}
+
+TEST(Search, SetsOfAllSizesAgreeWithThePlainSteps) {
+    std::mt19937 random(3);
+    for (int i = 0; i < 20000; ++i) {
+        std::string const s = randomBytes(random, random() % 40);
+        std::string const set = randomBytes(random, random() % 20);
+        SCOPED_TRACE(testing::PrintToString(s) + ", " + testing::PrintToString(set));
+        ASSERT_EQ(CharFunctions::IndexOfFirstOccurence(s.c_str(), set.c_str()),
+                  model::indexOfFirst(s, set));
+        ASSERT_EQ(CharFunctions::IndexOfLastOccurence(s.c_str(), set.c_str()),
+                  model::indexOfLast(s, set));
+        ASSERT_EQ(CharFunctions::EndsWith(s.c_str(), set.c_str()), model::endsWith(s, set));
+    }
+}
+
+TEST(Search, TheLastOfEveryMemberOfASetIsFound) {
+    std::string const members = "0123456789\xE9";
+    for (std::size_t size = 1; size <= members.size(); ++size) {
+        std::string const set = members.substr(0, size);
+        for (char const member : members) {
+            std::string const s = std::string("x0") + member + "x";
+            EXPECT_EQ(CharFunctions::IndexOfLastOccurence(s.c_str(), set.c_str()),
+                      model::indexOfLast(s, set))
+                << set << " in " << s;
+        }
     }
 }
 

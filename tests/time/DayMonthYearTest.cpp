@@ -53,12 +53,13 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(EightCharactersAreReadByPositionSlashesIncluded, DayMonthYear,
                          testing::Values(Row{"21/11/12", 21, -1, -1, false},
                                          Row{"21\\11\\12", 21, -1, -1, false}));
-INSTANTIATE_TEST_SUITE_P(FieldsThatAreNoNumbersAreRefusedOneByOne, DayMonthYear,
-                         testing::Values(Row{"ab/11/2012", -1, 11, 2012, false},
-                                         Row{"21/ab/2012", 21, -1, 2012, false},
-                                         Row{"21/11/abcd", 21, 11, -1, false},
-                                         Row{"2./11/2012", 2, 11, 2012, true},
-                                         Row{"5./11/2012", 5, 11, 2012, true}));
+INSTANTIATE_TEST_SUITE_P(
+    FieldsThatAreNoNumbersAreRefusedOneByOne, DayMonthYear,
+    testing::Values(Row{"ab/11/2012", -1, 11, 2012, false}, Row{"21/ab/2012", 21, -1, 2012, false},
+                    Row{"21/11/abcd", 21, 11, -1, false}, Row{"2./11/2012", 2, 11, 2012, true},
+                    Row{"+5/-0/0x1f", 5, 0, 0, false}, Row{".0/0x/1e2.", 0, 0, 1, false},
+                    Row{"5-/-1/-0.0", -1, -1, 0, false}, Row{"1./1e/+.5e", 1, -1, -1, false},
+                    Row{"5./11/2012", 5, 11, 2012, true}));
 INSTANTIATE_TEST_SUITE_P(
     ValidMeansDay1To31Month1To12AndYearFrom100, DayMonthYear,
     testing::Values(Row{"00/11/2012", 0, 11, 2012, false}, Row{"01/11/2012", 1, 11, 2012, true},

@@ -29,4 +29,11 @@ TEST(FoldedComparison, EndsWithTheShorterText) {
     EXPECT_EQ(compareFolded("", "A"), -'a');
 }
 
+TEST(FoldedComparison, OfSoManyBytesIsTheCLibrarys) {
+    for (char const* const b : {"", "x", "ABC", "abd", "abcd"}) {
+        for (std::size_t n = 0; n < 6; ++n)
+            EXPECT_EQ(compareFolded("abc", b, n), strncasecmp("abc", b, n)) << b << ", " << n;
+    }
+}
+
 }  // namespace
