@@ -208,8 +208,7 @@ class LargeInteger {
     /// @{
 
     /// Shifts left by `count`, or right by `-count`. With `from` above 0 only the bits at
-    /// positions `from` and up move and those below stay: meant for edits of a few positions, the
-    /// cost is one step a bit.
+    /// positions `from` and up move and those below stay.
     void shiftBits(int count, int from) noexcept;
     /// Shifts left; a negative `n` shifts right.
     LargeInteger& operator<<=(int n) noexcept;
