@@ -9,8 +9,6 @@
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
-#include <cstdint>
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>

@@ -1,7 +1,7 @@
 // How the operands are drawn.
 #include "Operands.h"
 
-#include "Rows.h"
+#include "../Rows.h"
 
 #include <algorithm>
 #include <map>

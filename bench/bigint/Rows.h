@@ -4,12 +4,14 @@
 #ifndef QEL_BENCH_BIGINT_ROWS_H
 #define QEL_BENCH_BIGINT_ROWS_H
 
+#include "../Results.h"
 #include "../Rows.h"
 #include "Operands.h"
 #include "Own.h"
 
 #include <algorithm>
 #include <cctype>
+#include <memory>
 #include <type_traits>
 
 namespace qel::bench {
@@ -22,17 +24,6 @@ inline std::vector<int> sizesUpTo(int largest) {
 
 // --- results as text, for the comparison ---------------------------------------------------------
 
-/// A comparison's result, of which only the sign counts.
-struct Order {
-    int order;
-};
-
-/// A result that no two libraries have in common.
-template <typename Value>
-struct Incomparable {
-    Value value;
-};
-
 /// Digits as the library writes them: some write capital ones, some a leading zero.
 inline std::string canonical(std::string text) {
     std::size_t const digits = text.starts_with('-') ? 1 : 0;
@@ -44,18 +35,14 @@ inline std::string canonical(std::string text) {
 
 template <typename Library, typename Result>
 std::string shown(Result const& result) {
-    if constexpr (std::is_integral_v<Result>)
-        return std::to_string(result);
-    else if constexpr (std::is_same_v<Result, std::string>)
+    if constexpr (std::is_same_v<Result, std::string>)
         return canonical(result);
-    else if constexpr (std::is_same_v<Result, Order>)
-        return std::to_string((result.order > 0) - (result.order < 0));
     else if constexpr (std::is_same_v<Result, Division<typename Library::Value>>)
         return shown<Library>(result.quotient) + " " + shown<Library>(result.remainder);
     else if constexpr (std::is_same_v<Result, typename Library::Value>)
         return canonical(Library::hexDigits(result));
     else
-        return "";
+        return asText(result);
 }
 
 // --- one row -------------------------------------------------------------------------------------
