@@ -15,160 +15,160 @@
 
 namespace qel::bench {
 
-struct OpenSslRelease {
+struct BignumRelease {
     void operator()(BIGNUM* value) const { BN_free(value); }
     void operator()(BN_CTX* pool) const { BN_CTX_free(pool); }
     void operator()(char* text) const { OPENSSL_free(text); }
 };
 
-inline BN_CTX* openSslPool() {
-    static std::unique_ptr<BN_CTX, OpenSslRelease> const shared(BN_CTX_new());
+inline BN_CTX* bignumPool() {
+    static std::unique_ptr<BN_CTX, BignumRelease> const shared(BN_CTX_new());
     return shared.get();
 }
 
-class OpenSslInteger {
+class Bignum {
   public:
-    OpenSslInteger() : value(BN_new()) {}
-    OpenSslInteger(OpenSslInteger const& other) : value(BN_dup(other)) {}
-    OpenSslInteger(OpenSslInteger&&) = default;
-    OpenSslInteger& operator=(OpenSslInteger const& other) {
+    Bignum() : value(BN_new()) {}
+    Bignum(Bignum const& other) : value(BN_dup(other)) {}
+    Bignum(Bignum&&) = default;
+    Bignum& operator=(Bignum const& other) {
         BN_copy(value.get(), other);
         return *this;
     }
-    OpenSslInteger& operator=(OpenSslInteger&&) = default;
-    ~OpenSslInteger() = default;
+    Bignum& operator=(Bignum&&) = default;
+    ~Bignum() = default;
 
     operator BIGNUM*() const { return value.get(); }
 
   private:
-    std::unique_ptr<BIGNUM, OpenSslRelease> value;
+    std::unique_ptr<BIGNUM, BignumRelease> value;
 };
 
-inline OpenSslInteger operator+(OpenSslInteger const& a, OpenSslInteger const& b) {
-    OpenSslInteger result;
+inline Bignum operator+(Bignum const& a, Bignum const& b) {
+    Bignum result;
     BN_add(result, a, b);
     return result;
 }
-inline OpenSslInteger operator-(OpenSslInteger const& a, OpenSslInteger const& b) {
-    OpenSslInteger result;
+inline Bignum operator-(Bignum const& a, Bignum const& b) {
+    Bignum result;
     BN_sub(result, a, b);
     return result;
 }
-inline OpenSslInteger operator*(OpenSslInteger const& a, OpenSslInteger const& b) {
-    OpenSslInteger result;
-    BN_mul(result, a, b, openSslPool());
+inline Bignum operator*(Bignum const& a, Bignum const& b) {
+    Bignum result;
+    BN_mul(result, a, b, bignumPool());
     return result;
 }
-inline OpenSslInteger operator/(OpenSslInteger const& a, OpenSslInteger const& b) {
-    OpenSslInteger result;
-    BN_div(result, nullptr, a, b, openSslPool());
+inline Bignum operator/(Bignum const& a, Bignum const& b) {
+    Bignum result;
+    BN_div(result, nullptr, a, b, bignumPool());
     return result;
 }
-inline OpenSslInteger operator%(OpenSslInteger const& a, OpenSslInteger const& b) {
-    OpenSslInteger result;
-    BN_mod(result, a, b, openSslPool());
+inline Bignum operator%(Bignum const& a, Bignum const& b) {
+    Bignum result;
+    BN_mod(result, a, b, bignumPool());
     return result;
 }
-inline OpenSslInteger operator-(OpenSslInteger const& a) {
-    OpenSslInteger result(a);
+inline Bignum operator-(Bignum const& a) {
+    Bignum result(a);
     BN_set_negative(result, BN_is_negative(a) == 0);
     return result;
 }
-inline OpenSslInteger operator*(OpenSslInteger const& a, int b) {
-    OpenSslInteger result(a);
+inline Bignum operator*(Bignum const& a, int b) {
+    Bignum result(a);
     BN_mul_word(result, static_cast<BN_ULONG>(b));
     return result;
 }
-inline OpenSslInteger operator/(OpenSslInteger const& a, int b) {
-    OpenSslInteger result(a);
+inline Bignum operator/(Bignum const& a, int b) {
+    Bignum result(a);
     BN_div_word(result, static_cast<BN_ULONG>(b));
     return result;
 }
-inline OpenSslInteger operator%(OpenSslInteger const& a, int b) {
-    OpenSslInteger result;
+inline Bignum operator%(Bignum const& a, int b) {
+    Bignum result;
     BN_set_word(result, BN_mod_word(a, static_cast<BN_ULONG>(b)));
     return result;
 }
-inline OpenSslInteger operator<<(OpenSslInteger const& a, int n) {
-    OpenSslInteger result;
+inline Bignum operator<<(Bignum const& a, int n) {
+    Bignum result;
     BN_lshift(result, a, n);
     return result;
 }
-inline OpenSslInteger operator>>(OpenSslInteger const& a, int n) {
-    OpenSslInteger result;
+inline Bignum operator>>(Bignum const& a, int n) {
+    Bignum result;
     BN_rshift(result, a, n);
     return result;
 }
 
-inline OpenSslInteger& operator+=(OpenSslInteger& a, OpenSslInteger const& b) {
+inline Bignum& operator+=(Bignum& a, Bignum const& b) {
     BN_add(a, a, b);
     return a;
 }
-inline OpenSslInteger& operator-=(OpenSslInteger& a, OpenSslInteger const& b) {
+inline Bignum& operator-=(Bignum& a, Bignum const& b) {
     BN_sub(a, a, b);
     return a;
 }
-inline OpenSslInteger& operator*=(OpenSslInteger& a, OpenSslInteger const& b) {
-    BN_mul(a, a, b, openSslPool());
+inline Bignum& operator*=(Bignum& a, Bignum const& b) {
+    BN_mul(a, a, b, bignumPool());
     return a;
 }
-inline OpenSslInteger& operator/=(OpenSslInteger& a, OpenSslInteger const& b) {
-    BN_div(a, nullptr, a, b, openSslPool());
+inline Bignum& operator/=(Bignum& a, Bignum const& b) {
+    BN_div(a, nullptr, a, b, bignumPool());
     return a;
 }
-inline OpenSslInteger& operator%=(OpenSslInteger& a, OpenSslInteger const& b) {
-    BN_mod(a, a, b, openSslPool());
+inline Bignum& operator%=(Bignum& a, Bignum const& b) {
+    BN_mod(a, a, b, bignumPool());
     return a;
 }
-inline OpenSslInteger& operator<<=(OpenSslInteger& a, int n) {
+inline Bignum& operator<<=(Bignum& a, int n) {
     BN_lshift(a, a, n);
     return a;
 }
-inline OpenSslInteger& operator>>=(OpenSslInteger& a, int n) {
+inline Bignum& operator>>=(Bignum& a, int n) {
     BN_rshift(a, a, n);
     return a;
 }
-inline OpenSslInteger& operator++(OpenSslInteger& a) {
+inline Bignum& operator++(Bignum& a) {
     BN_add_word(a, 1);
     return a;
 }
-inline OpenSslInteger& operator--(OpenSslInteger& a) {
+inline Bignum& operator--(Bignum& a) {
     BN_sub_word(a, 1);
     return a;
 }
-inline OpenSslInteger operator++(OpenSslInteger& a, int) {
-    OpenSslInteger old(a);
+inline Bignum operator++(Bignum& a, int) {
+    Bignum old(a);
     ++a;
     return old;
 }
-inline OpenSslInteger operator--(OpenSslInteger& a, int) {
-    OpenSslInteger old(a);
+inline Bignum operator--(Bignum& a, int) {
+    Bignum old(a);
     --a;
     return old;
 }
 
-inline bool operator==(OpenSslInteger const& a, OpenSslInteger const& b) {
+inline bool operator==(Bignum const& a, Bignum const& b) {
     return BN_cmp(a, b) == 0;
 }
-inline bool operator!=(OpenSslInteger const& a, OpenSslInteger const& b) {
+inline bool operator!=(Bignum const& a, Bignum const& b) {
     return BN_cmp(a, b) != 0;
 }
-inline bool operator<(OpenSslInteger const& a, OpenSslInteger const& b) {
+inline bool operator<(Bignum const& a, Bignum const& b) {
     return BN_cmp(a, b) < 0;
 }
-inline bool operator<=(OpenSslInteger const& a, OpenSslInteger const& b) {
+inline bool operator<=(Bignum const& a, Bignum const& b) {
     return BN_cmp(a, b) <= 0;
 }
-inline bool operator>(OpenSslInteger const& a, OpenSslInteger const& b) {
+inline bool operator>(Bignum const& a, Bignum const& b) {
     return BN_cmp(a, b) > 0;
 }
-inline bool operator>=(OpenSslInteger const& a, OpenSslInteger const& b) {
+inline bool operator>=(Bignum const& a, Bignum const& b) {
     return BN_cmp(a, b) >= 0;
 }
 
 class OpenSsl {
   public:
-    using Value = OpenSslInteger;
+    using Value = Bignum;
 
     static constexpr char const* name = "openssl";
     /// Its decimal text and its division take quadratic time.
@@ -186,27 +186,27 @@ class OpenSsl {
     // Results go to variables that live through the measurement.
 
     Value const& power(Value const& base, Value const& exponent, Value const& modulus) {
-        BN_mod_exp(result, base, exponent, modulus, openSslPool());
+        BN_mod_exp(result, base, exponent, modulus, bignumPool());
         return result;
     }
     Value const& multiply(Value const& a, Value const& b) {
-        BN_mul(result, a, b, openSslPool());
+        BN_mul(result, a, b, bignumPool());
         return result;
     }
     Value const& square(Value const& a) {
-        BN_sqr(result, a, openSslPool());
+        BN_sqr(result, a, bignumPool());
         return result;
     }
     Division<Value> const& divide(Value const& a, Value const& b) {
-        BN_div(division.quotient, division.remainder, a, b, openSslPool());
+        BN_div(division.quotient, division.remainder, a, b, bignumPool());
         return division;
     }
     Value const& gcd(Value const& a, Value const& b) {
-        BN_gcd(result, a, b, openSslPool());
+        BN_gcd(result, a, b, bignumPool());
         return result;
     }
     Value const& inverse(Value const& a, Value const& modulus) {
-        BN_mod_inverse(result, a, modulus, openSslPool());
+        BN_mod_inverse(result, a, modulus, bignumPool());
         return result;
     }
     std::string toText(Value const& a, int radix) { return textOf(a, radix); }
@@ -240,28 +240,28 @@ class OpenSsl {
 
     static Division<Value> quotientAndRemainder(Value const& a, Value const& b) {
         Division<Value> result;
-        BN_div(result.quotient, result.remainder, a, b, openSslPool());
+        BN_div(result.quotient, result.remainder, a, b, bignumPool());
         return result;
     }
     static Value greatestDivisor(Value const& a, Value const& b) {
         Value result;
-        BN_gcd(result, a, b, openSslPool());
+        BN_gcd(result, a, b, bignumPool());
         return result;
     }
     static Value inverseOf(Value const& a, Value const& modulus) {
         Value result;
-        BN_mod_inverse(result, a, modulus, openSslPool());
+        BN_mod_inverse(result, a, modulus, bignumPool());
         return result;
     }
     static Value powerOf(Value const& base, Value const& exponent, Value const& modulus) {
         Value result;
-        BN_mod_exp(result, base, exponent, modulus, openSslPool());
+        BN_mod_exp(result, base, exponent, modulus, bignumPool());
         return result;
     }
 
     /// In decimal or hexadecimal.
     static std::string textOf(Value const& a, int radix) {
-        std::unique_ptr<char, OpenSslRelease> const text(radix == 10 ? BN_bn2dec(a) : BN_bn2hex(a));
+        std::unique_ptr<char, BignumRelease> const text(radix == 10 ? BN_bn2dec(a) : BN_bn2hex(a));
         return text.get();
     }
     static Value valueOf(std::string const& digits, int radix) {

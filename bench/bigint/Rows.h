@@ -67,7 +67,8 @@ std::vector<std::string> shownResults(Operands operands, Operation operation) {
                      [](auto const& result) { return shown<Library>(result); });
 }
 
-template <typename Library, typename Operation>
+/// `Reference` gives the results that are compared with.
+template <typename Library, typename Reference = Own, typename Operation>
 void addRow(Row const& row, std::vector<int> const& sizes, Draw draw, Operation operation) {
     auto const library = std::make_shared<Library>();
     for (int const bits : sizes) {
@@ -79,7 +80,7 @@ void addRow(Row const& row, std::vector<int> const& sizes, Draw draw, Operation 
             [=] {
                 Operands const& operands = drawn(draw, bits);
                 return shownResults<Library>(operands, operation)
-                       == shownResults<Own>(operands, operation);
+                       == shownResults<Reference>(operands, operation);
             });
     }
 }
