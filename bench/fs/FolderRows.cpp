@@ -83,7 +83,7 @@ void addPathRows() {
     addRows(
         {"IsPathAbsolute", {"Folder::IsPathAbsolute(char const*)"}}, noSize, names,
         [](auto& x) { return Folder::IsPathAbsolute(x.s()); },
-        Peer{"*s == '/'", [](auto& x) { return *x.s() == '/'; }},
+        Peer{"first byte", [](auto& x) { return *x.s() == '/'; }},
         Peer{"filesystem", [](auto& x) { return std::filesystem::path(x.s()).is_absolute(); }});
     addRows(
         {"IsSymlink", {"Folder::IsSymlink(char const*)"}}, noSize, folders,

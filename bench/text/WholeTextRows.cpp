@@ -31,7 +31,7 @@ void addQuestionRows() {
     addRows(
         {"IsEmpty", {"CharFunctions::IsEmpty(char const*)"}}, noSize, booleans,
         [](auto& x) { return CharFunctions::IsEmpty(x.c_str()); },
-        Peer{"*s == 0", [](auto& x) { return *x.c_str() == '\0'; }});
+        Peer{"first byte", [](auto& x) { return *x.c_str() == '\0'; }});
     addRows(
         {"StartsWithDigit", {"CharFunctions::StartsWithDigit(char const*)"}}, noSize, booleans,
         [](auto& x) { return CharFunctions::StartsWithDigit(x.c_str()); },
