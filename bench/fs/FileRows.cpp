@@ -3,6 +3,7 @@
 
 #include "qel/File.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
@@ -92,14 +93,16 @@ std::string firstWord(char const* path) {
     return word;
 }
 
-/// The files of these rows are one word each.
-std::string wholeFile(char const* path) {
+std::string firstWordByRead(char const* path) {
+    constexpr char const* whiteSpace = " \t\n\v\f\r";
     int const file = open(path, O_RDONLY);
     struct stat status;
     fstat(file, &status);
     std::string text(static_cast<std::size_t>(status.st_size), '\0');
     text.resize(static_cast<std::size_t>(read(file, text.data(), text.size())));
     close(file);
+    text.erase(0, std::min(text.find_first_not_of(whiteSpace), text.size()));
+    text.resize(std::strcspn(text.c_str(), whiteSpace));
     return text;
 }
 
@@ -122,7 +125,7 @@ void addContentRows() {
             return text;
         },
         Peer{"ifstream", [](auto& x) { return firstWord(x.s()); }},
-        Peer{"read", [](auto& x) { return wholeFile(x.s()); }});
+        Peer{"read", [](auto& x) { return firstWordByRead(x.s()); }});
     // An existing file is deleted and made again.
     addRows(
         {"WriteStringToFile", {"File::WriteStringToFile(std::string const&, char const*, bool)"}},

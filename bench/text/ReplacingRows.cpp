@@ -1,4 +1,4 @@
-// Replace against the loop that everyone writes with find and replace, from 1 KB to 1 MB: with few
+// Replace against the loop that everyone writes with find and replace, up to 1 MB: with few
 // and many occurrences, and with texts and parts that nearly match everywhere. Where the loop is
 // quadratic it is measured up to 64 KB only.
 #include "Texts.h"
@@ -11,7 +11,7 @@
 namespace qel::bench {
 namespace {
 
-std::vector<int> const sizes = {1 << 10, 1 << 15, 1 << 20};
+std::vector<int> const sizes = {1 << 8, 1 << 12, 1 << 16, 1 << 20};
 constexpr int largestForTheLoop = 1 << 16;
 
 struct Case {
