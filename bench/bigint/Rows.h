@@ -11,8 +11,10 @@
 
 #include <algorithm>
 #include <cctype>
+#include <map>
 #include <memory>
 #include <type_traits>
+#include <utility>
 
 namespace qel::bench {
 
@@ -56,6 +58,16 @@ std::vector<Arguments<typename Library::Value>> inTermsOf(Operands const& operan
     return table;
 }
 
+/// The table of `draw` in terms of the library, converted once.
+template <typename Library>
+std::vector<Arguments<typename Library::Value>> const& converted(Draw draw, int bits) {
+    static std::map<std::pair<Draw, int>, std::vector<Arguments<typename Library::Value>>> known;
+    auto const [place, isNew] = known.try_emplace({draw, bits});
+    if (isNew)
+        place->second = inTermsOf<Library>(drawn(draw, bits));
+    return place->second;
+}
+
 /// Of long numbers the first results must do.
 template <typename Library, typename Operation>
 std::vector<std::string> shownResults(Operands operands, Operation operation) {
@@ -75,7 +87,7 @@ void addRow(Row const& row, std::vector<int> const& sizes, Draw draw, Operation 
         if (!Library::endsInReasonableTime(row.name, bits))
             continue;
         registerRow(
-            Library::name, row, bits, [=] { return inTermsOf<Library>(drawn(draw, bits)); },
+            Library::name, row, bits, [=] { return converted<Library>(draw, bits); },
             [=](auto& x) -> decltype(auto) { return operation(*library, x); },
             [=] {
                 Operands const& operands = drawn(draw, bits);
