@@ -19,8 +19,12 @@ class Boost {
     using Value = boost::multiprecision::cpp_int;
 
     static constexpr char const* name = "boost";
-    /// Nearly everything but the product takes quadratic time or worse.
-    static bool endsInReasonableTime(std::string const&, int bits) { return bits <= 131072; }
+    /// Nearly everything but sums takes quadratic time, number theory at a large factor.
+    static bool endsInReasonableTime(std::string const& operation, int bits) {
+        bool const isNumberTheory = operation.find("Modulo") != std::string::npos
+                                    || operation.find("Divisor") != std::string::npos;
+        return bits <= (isNumberTheory ? 4096 : 131072);
+    }
 
     static constexpr bool writesRadix(int radix) { return radix != 2; }
 

@@ -171,9 +171,13 @@ class OpenSsl {
     using Value = Bignum;
 
     static constexpr char const* name = "openssl";
-    /// Its decimal text and its division take quadratic time.
+    /// Its decimal text and its division take quadratic time, number theory at a large factor.
     static bool endsInReasonableTime(std::string const& operation, int bits) {
-        return bits <= 131072 || operation.find("decimal") == std::string::npos;
+        bool const isNumberTheory = operation.find("Modulo") != std::string::npos
+                                    || operation.find("Divisor") != std::string::npos;
+        bool const isDecimal = operation.find("decimal") != std::string::npos
+                               && operation.find("hexadecimal") == std::string::npos;
+        return bits <= (isNumberTheory ? 4096 : isDecimal ? 131072 : 1048576);
     }
 
     static constexpr bool writesRadix(int radix) { return radix == 10 || radix == 16; }
