@@ -18,6 +18,7 @@ class Boost {
   public:
     using Value = boost::multiprecision::cpp_int;
 
+    static constexpr bool movesValues = true;
     static constexpr char const* name = "boost";
     /// Nearly everything but sums takes quadratic time, number theory at a large factor.
     static bool endsInReasonableTime(std::string const& operation, int bits) {

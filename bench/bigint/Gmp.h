@@ -19,6 +19,7 @@ class Gmp {
   public:
     using Value = mpz_class;
 
+    static constexpr bool movesValues = true;
     static constexpr char const* name = "gmp";
     static bool endsInReasonableTime(std::string const&, int) { return true; }
 

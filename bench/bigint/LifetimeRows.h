@@ -40,14 +40,16 @@ void registerLifetimeRows() {
     addRow<Library>(
         {"assign", {"LargeInteger::operator=(LargeInteger const&)"}}, allSizes, pairs,
         [](auto&, auto& x) -> auto& { return x.c = x.a; });
-    addRow<Library>(
-        {"move there and back",
-         {"LargeInteger::LargeInteger(LargeInteger&&)", "LargeInteger::operator=(LargeInteger&&)"}},
-        allSizes, pairs, [](auto&, auto& x) -> auto& {
-            auto moved = std::move(x.a);
-            benchmark::DoNotOptimize(moved);
-            return x.a = std::move(moved);
-        });
+    if constexpr (Library::movesValues)
+        addRow<Library>(
+            {"move there and back",
+             {"LargeInteger::LargeInteger(LargeInteger&&)",
+              "LargeInteger::operator=(LargeInteger&&)"}},
+            allSizes, pairs, [](auto&, auto& x) -> auto& {
+                auto moved = std::move(x.a);
+                benchmark::DoNotOptimize(moved);
+                return x.a = std::move(moved);
+            });
     addRow<Library>(
         {"swapWith", {"LargeInteger::swapWith(LargeInteger&)"}}, allSizes, pairs,
         [](auto& library, auto& x) -> auto& {

@@ -170,6 +170,8 @@ class OpenSsl {
   public:
     using Value = Bignum;
 
+    /// A move would be that of the wrapper.
+    static constexpr bool movesValues = false;
     static constexpr char const* name = "openssl";
     /// Its decimal text and its division take quadratic time, number theory at a large factor.
     static bool endsInReasonableTime(std::string const& operation, int bits) {

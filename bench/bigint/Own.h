@@ -19,6 +19,7 @@ class Own {
   public:
     using Value = LargeInteger;
 
+    static constexpr bool movesValues = true;
     static constexpr char const* name = "qel";
     static bool endsInReasonableTime(std::string const&, int) { return true; }
 
