@@ -1,7 +1,10 @@
 // How the operands are drawn.
 #include "Operands.h"
 
+#include "../Rows.h"
+
 #include <algorithm>
+#include <map>
 #include <random>
 
 namespace qel::bench {
@@ -40,50 +43,116 @@ LargeInteger drawEvenModulusCoprimeTo(LargeInteger const& value, Generator& rand
     return modulus;
 }
 
+/// Long numbers tell no branch predictor anything, and a whole table of the longest would not fit
+/// into the caches.
+std::size_t tableSizeFor(int bits) {
+    return bits <= 65536 ? tableSize : 4;
+}
+
+template <typename DrawOne>
+Operands drawTable(int bits, DrawOne drawOne) {
+    Generator random(static_cast<unsigned int>(bits));
+    Operands table(tableSizeFor(bits));
+    for (Arguments<LargeInteger>& x : table) {
+        x.bits = bits;
+        x.position = static_cast<int>(random() % static_cast<unsigned int>(bits - 31));
+        drawOne(x, random);
+    }
+    return table;
+}
+
 }  // namespace
 
+Operands const& drawn(Draw draw, int bits) {
+    static std::map<std::pair<Draw, int>, Operands> known;
+    auto const [place, isNew] = known.try_emplace({draw, bits});
+    if (isNew)
+        place->second = draw(bits);
+    return place->second;
+}
+
 std::string hexDigits(LargeInteger const& value) {
-    std::string text;
+    std::string text = value.isNegative() ? "-" : "";
     for (int i = value.getHighestBit() / 4; i >= 0; --i)
         text += "0123456789abcdef"[value.getBitRangeAsInt(4 * i, 4)];
     return text;
 }
 
-Operands two(int bits) {
-    Generator random(1);
-    LargeInteger const a = draw(random, bits);
-    return {a, draw(random, bits)};
+Operands pairs(int bits) {
+    return drawTable(bits, [=](Arguments<LargeInteger>& x, Generator& random) {
+        x.a = draw(random, bits);
+        x.b = draw(random, bits);
+    });
 }
 
-Operands one(int bits) {
-    Generator random(2);
-    return {draw(random, bits)};
+Operands equalPairs(int bits) {
+    return drawTable(bits, [=](Arguments<LargeInteger>& x, Generator& random) {
+        x.a = draw(random, bits);
+        x.b = x.a;
+    });
 }
 
-Operands dividendAndDivisor(int bits) {
-    Generator random(3);
-    LargeInteger const dividend = draw(random, 2 * bits);
-    return {dividend, draw(random, bits)};
+Operands closePairs(int bits) {
+    return drawTable(bits, [=](Arguments<LargeInteger>& x, Generator& random) {
+        x.a = draw(random, bits);
+        x.b = x.a;
+        x.b.setBit(0, x.a[0] == 0);
+    });
 }
 
-Operands baseExponentModulus(int bits) {
-    Generator random(4);
-    LargeInteger const base = drawBelowModulus(random, bits);
-    LargeInteger const exponent = drawBelowModulus(random, bits);
-    return {base, exponent, drawModulus(random, bits, true)};
+Operands sparse(int bits) {
+    return drawTable(
+        bits, [=](Arguments<LargeInteger>& x, Generator&) { x.a = LargeInteger(1) << (bits - 1); });
 }
 
-Operands smallValueAndEvenModulus(int bits) {
-    Generator random(5);
-    LargeInteger const value(65537);
-    return {value, drawEvenModulusCoprimeTo(value, random, bits)};
+Operands dense(int bits) {
+    return drawTable(bits, [=](Arguments<LargeInteger>& x, Generator&) {
+        x.a = (LargeInteger(1) << bits) - LargeInteger(1);
+    });
 }
 
-Operands valueAndEvenModulus(int bits) {
-    Generator random(6);
-    LargeInteger value = drawBelowModulus(random, bits);
-    value.setBit(0);
-    return {value, drawEvenModulusCoprimeTo(value, random, bits)};
+Operands dividendsAndDivisors(int bits) {
+    return drawTable(bits, [=](Arguments<LargeInteger>& x, Generator& random) {
+        x.a = draw(random, 2 * bits);
+        x.b = draw(random, bits);
+    });
+}
+
+Operands basesExponentsModuli(int bits) {
+    return drawTable(bits, [=](Arguments<LargeInteger>& x, Generator& random) {
+        x.a = drawBelowModulus(random, bits);
+        x.b = drawBelowModulus(random, bits);
+        x.c = drawModulus(random, bits, true);
+    });
+}
+
+Operands basesAndModuli(int bits) {
+    Operands table = basesExponentsModuli(bits);
+    for (Arguments<LargeInteger>& x : table)
+        x.b = LargeInteger(65537);
+    return table;
+}
+
+Operands smallValuesAndEvenModuli(int bits) {
+    return drawTable(bits, [=](Arguments<LargeInteger>& x, Generator& random) {
+        x.a = LargeInteger(65537);
+        x.b = drawEvenModulusCoprimeTo(x.a, random, bits);
+    });
+}
+
+Operands valuesAndEvenModuli(int bits) {
+    return drawTable(bits, [=](Arguments<LargeInteger>& x, Generator& random) {
+        x.a = drawBelowModulus(random, bits);
+        x.a.setBit(0);
+        x.b = drawEvenModulusCoprimeTo(x.a, random, bits);
+    });
+}
+
+Operands oddModuliAndTwoLess(int bits) {
+    return drawTable(bits, [=](Arguments<LargeInteger>& x, Generator& random) {
+        x.b = drawModulus(random, bits, true);
+        x.a = x.b - LargeInteger(2);
+    });
 }
 
 }  // namespace qel::bench

@@ -1,5 +1,5 @@
 // The rows of LargeInteger, and which compiler it was built with.
-#include "Rows.h"
+#include "AllRows.h"
 
 namespace {
 
@@ -10,6 +10,6 @@ constexpr char const* compiler = "g++ " __VERSION__;
 #endif
 
 [[maybe_unused]] bool const registered = (benchmark::AddCustomContext("compiler", compiler),
-                                          qel::bench::registerRows<qel::bench::Own>(), true);
+                                          qel::bench::registerAllRows<qel::bench::Own>(), true);
 
 }  // namespace

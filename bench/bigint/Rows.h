@@ -1,141 +1,100 @@
-// The rows of the table: which operations are measured at which sizes. A library takes part by
-// calling registerRows<Library>() with a class like Own. Before a row is measured, its result is
-// compared with LargeInteger's.
+// One row of the large integers: an operation at several sizes, by one library. A library takes
+// part with a class like Own; an operation is called with an object of it and one element of the
+// table. Before a row is measured its results are compared with LargeInteger's.
 #ifndef QEL_BENCH_BIGINT_ROWS_H
 #define QEL_BENCH_BIGINT_ROWS_H
 
+#include "../Results.h"
+#include "../Rows.h"
 #include "Operands.h"
 #include "Own.h"
 
-#include <benchmark/benchmark.h>
-
+#include <algorithm>
 #include <cctype>
-#include <string>
-#include <vector>
+#include <map>
+#include <memory>
+#include <type_traits>
+#include <utility>
 
 namespace qel::bench {
 
-inline std::vector<int> const keySizes = {1024, 2048, 4096};
-inline std::vector<int> const productSizes = {1024, 2048, 4096, 131072, 1048576};
-inline std::vector<int> const textSizes = {1024, 4096, 131072, 1048576};
+inline std::vector<int> const allSizes = {64, 128, 256, 512, 1024, 4096, 65536, 1048576};
+
+inline std::vector<int> sizesUpTo(int largest) {
+    return {allSizes.begin(), std::upper_bound(allSizes.begin(), allSizes.end(), largest)};
+}
 
 // --- results as text, for the comparison ---------------------------------------------------------
 
-template <typename Library>
-std::string shown(typename Library::Value const& value) {
-    return Library::hexDigits(value);
-}
-
-template <typename Library>
-std::string shown(Division<typename Library::Value> const& division) {
-    return shown<Library>(division.quotient) + " " + shown<Library>(division.remainder);
-}
-
-/// Text as the library writes it: some write capital digits, some a leading zero.
-template <typename Library>
-std::string shown(std::string text) {
-    text.erase(0, text.find_first_not_of('0'));
+/// Digits as the library writes them: some write capital ones, some a leading zero.
+inline std::string canonical(std::string text) {
+    std::size_t const digits = text.starts_with('-') ? 1 : 0;
+    text.erase(digits, std::min(text.find_first_not_of('0', digits), text.size()) - digits);
     for (char& c : text)
         c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     return text;
 }
 
+template <typename Library, typename Result>
+std::string shown(Result const& result) {
+    if constexpr (std::is_same_v<Result, std::string>)
+        return canonical(result);
+    else if constexpr (std::is_same_v<Result, Division<typename Library::Value>>)
+        return shown<Library>(result.quotient) + " " + shown<Library>(result.remainder);
+    else if constexpr (std::is_same_v<Result, typename Library::Value>)
+        return canonical(Library::hexDigits(result));
+    else
+        return asText(result);
+}
+
 // --- one row -------------------------------------------------------------------------------------
 
 template <typename Library>
-std::vector<typename Library::Value> inTermsOf(Operands const& operands) {
-    std::vector<typename Library::Value> values;
-    for (LargeInteger const& operand : operands)
-        values.push_back(Library::take(operand));
-    return values;
+std::vector<Arguments<typename Library::Value>> inTermsOf(Operands const& operands) {
+    std::vector<Arguments<typename Library::Value>> table;
+    for (Arguments<LargeInteger> const& x : operands)
+        table.push_back({Library::take(x.a), Library::take(x.b), Library::take(x.c), x.bits,
+                         x.position, x.text});
+    return table;
 }
 
-/// `prepare` turns the drawn operands into what `operation` takes beside the library.
-template <typename Library, typename Prepare, typename Operation>
-std::string shownResult(Operands const& operands, Prepare prepare, Operation operation) {
-    Library library;
-    return shown<Library>(operation(library, prepare(operands)));
+/// The table of `draw` in terms of the library, converted once.
+template <typename Library>
+std::vector<Arguments<typename Library::Value>> const& converted(Draw draw, int bits) {
+    static std::map<std::pair<Draw, int>, std::vector<Arguments<typename Library::Value>>> known;
+    auto const [place, isNew] = known.try_emplace({draw, bits});
+    if (isNew)
+        place->second = inTermsOf<Library>(drawn(draw, bits));
+    return place->second;
 }
 
-template <typename Library, typename Prepare, typename Operation>
-void measure(benchmark::State& state, Operands const& operands, Prepare prepare,
-             Operation operation) {
-    Library library;
-    auto const prepared = prepare(operands);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(operation(library, prepared));
-}
-
-template <typename Library, typename Operation, typename Prepare, typename PrepareOwn>
-void addRow(std::string const& operationName, std::vector<int> const& sizes,
-            Operands (*draw)(int bits), Operation operation, Prepare prepare,
-            PrepareOwn prepareOwn) {
-    for (int const bits : sizes) {
-        if (!Library::endsInReasonableTime(operationName, bits))
-            continue;
-        auto run = [=, checked = false](benchmark::State& state) mutable {
-            Operands const operands = draw(bits);
-            if (!checked
-                && shownResult<Library>(operands, prepare, operation)
-                       != shownResult<Own>(operands, prepareOwn, operation))
-                return state.SkipWithError("the result is not LargeInteger's");
-            checked = true;
-            measure<Library>(state, operands, prepare, operation);
-        };
-        std::string const row = operationName + "/" + std::to_string(bits);
-        benchmark::RegisterBenchmark((Library::name + ("/" + row)).c_str(), run);
-    }
-}
-
+/// Of long numbers the first results must do.
 template <typename Library, typename Operation>
-void addRow(std::string const& operationName, std::vector<int> const& sizes,
-            Operands (*draw)(int bits), Operation operation) {
-    addRow<Library>(operationName, sizes, draw, operation, inTermsOf<Library>, inTermsOf<Own>);
+std::vector<std::string> shownResults(Operands operands, Operation operation) {
+    if (operands.front().bits > 4096)
+        operands.resize(2);
+    Library library;
+    auto call = [&](auto& x) -> decltype(auto) { return operation(library, x); };
+    return resultsOf(inTermsOf<Library>(operands), call,
+                     [](auto const& result) { return shown<Library>(result); });
 }
 
-// --- all rows ------------------------------------------------------------------------------------
-
-template <typename Library>
-void addTextRows(std::string const& radixName, int radix) {
-    addRow<Library>(radixName + " out", textSizes, one,
-                    [radix](auto& library, auto const& x) -> decltype(auto) {
-                        return library.toText(x[0], radix);
-                    });
-    auto const digits = [radix](Operands const& x) { return x[0].toString(radix); };
-    addRow<Library>(
-        radixName + " in", textSizes, one,
-        [radix](auto& library, std::string const& text) -> decltype(auto) {
-            return library.fromText(text, radix);
-        },
-        digits, digits);
-}
-
-template <typename Library>
-void registerRows() {
-    addRow<Library>("power", keySizes, baseExponentModulus,
-                    [](auto& library, auto const& x) -> decltype(auto) {
-                        return library.power(x[0], x[1], x[2]);
-                    });
-    addRow<Library>("multiply", productSizes, two,
-                    [](auto& library, auto const& x) -> decltype(auto) {
-                        return library.multiply(x[0], x[1]);
-                    });
-    addRow<Library>(
-        "square", productSizes, one,
-        [](auto& library, auto const& x) -> decltype(auto) { return library.square(x[0]); });
-    addRow<Library>(
-        "divide", productSizes, dividendAndDivisor,
-        [](auto& library, auto const& x) -> decltype(auto) { return library.divide(x[0], x[1]); });
-    addRow<Library>("gcd", keySizes, two, [](auto& library, auto const& x) -> decltype(auto) {
-        return library.gcd(x[0], x[1]);
-    });
-    auto const inverse = [](auto& library, auto const& x) -> decltype(auto) {
-        return library.inverse(x[0], x[1]);
-    };
-    addRow<Library>("inverse of 65537", keySizes, smallValueAndEvenModulus, inverse);
-    addRow<Library>("inverse", keySizes, valueAndEvenModulus, inverse);
-    addTextRows<Library>("decimal", 10);
-    addTextRows<Library>("hexadecimal", 16);
+/// `Reference` gives the results that are compared with.
+template <typename Library, typename Reference = Own, typename Operation>
+void addRow(Row const& row, std::vector<int> const& sizes, Draw draw, Operation operation) {
+    auto const library = std::make_shared<Library>();
+    for (int const bits : sizes) {
+        if (!Library::endsInReasonableTime(row.name, bits))
+            continue;
+        registerRow(
+            Library::name, row, bits, [=] { return converted<Library>(draw, bits); },
+            [=](auto& x) -> decltype(auto) { return operation(*library, x); },
+            [=] {
+                Operands const& operands = drawn(draw, bits);
+                return shownResults<Library>(operands, operation)
+                       == shownResults<Reference>(operands, operation);
+            });
+    }
 }
 
 }  // namespace qel::bench

@@ -34,6 +34,7 @@ void measure(benchmark::State& state, CreateKeys const& create) {
         keys = createAll(bits, create);
     if (keys != expectedKeys(bits))
         state.SkipWithError("the keys are not createKeyPair's");
+    state.SetLabel("RSAKey::createKeyPair(RSAKey&, RSAKey&, int, int const*, int)");
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(keys.size()));
 }
 
