@@ -195,30 +195,18 @@ bool internal::Representation::invert(LargeInteger& a, LargeInteger const& m) no
     return true;
 }
 
-namespace {
-
-/// a modulo m: itself where it is below m, and otherwise the remainder, which then is kept.
-Magnitude reduced(Magnitude a, Magnitude m, std::optional<Quotient>& kept) noexcept {
-    if (a.top < m.top || compareMagnitudes(a, m) < 0)
-        return a;
-    kept.emplace(a, m);
-    return {kept->remainder, static_cast<int>(topBit(kept->remainder, kept->remainderCount))};
-}
-
-}  // namespace
-
 void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) noexcept {
     Magnitude const modulus = Representation::magnitude(m);
-    if (modulus.top >= 0 && !isNegative()) {
-        std::optional<Quotient> keptExponent;
-        std::optional<Quotient> keptBase;
-        Magnitude const exponent = reduced(Representation::magnitude(e), modulus, keptExponent);
-        Magnitude const base = reduced(Representation::magnitude(*this), modulus, keptBase);
-        if (exponent.top >= 0 && base.top >= 0) {
-            Representation::raise(*this, base, exponent, modulus);
-            return;
-        }
-    }
+    auto const raise = [&](LargeInteger const& base, LargeInteger const& exponent) {
+        bool const isOrdinary = !base.isZero() && !base.isNegative() && !exponent.isZero();
+        if (isOrdinary)
+            Representation::raise(*this, Representation::magnitude(base),
+                                  Representation::magnitude(exponent), modulus);
+        return isOrdinary;
+    };
+    bool const isReduced = compareAbsolute(m) < 0 && e.compareAbsolute(m) < 0;
+    if (isReduced ? raise(*this, e) : raise(*this % m, e % m))
+        return;
     // A base or an exponent of zero, and the signs that squaring in place gives a negative base. m
     // may be this object.
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)

@@ -17,7 +17,8 @@ class MontgomeryLimb {
     /// difference of the upper ones is above -n and below n.
     [[nodiscard]] Limb multiply(Limb a, Limb b) const noexcept {
         DoubleLimb const product = DoubleLimb{a} * b;
-        Limb const subtrahend = high(DoubleLimb{low(product) * inverse} * n);
+        Limb const quotient = low(product) * inverse;
+        Limb const subtrahend = high(DoubleLimb{quotient} * n);
         Limb const difference = high(product) - subtrahend;
         return high(product) < subtrahend ? difference + n : difference;
     }
