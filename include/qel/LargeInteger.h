@@ -295,8 +295,7 @@ class LargeInteger {
     friend struct internal::Representation;
     friend struct LargeIntegerPeer;
 
-    LargeInteger(std::uint64_t* limbs, int capacity, int bound, bool flag) noexcept
-        : data(limbs), size(capacity), highestBit(bound), negative(flag) {}
+    LargeInteger(std::uint64_t* limbs, int capacity, int bound, bool flag) noexcept;
 
     /// The magnitude, least significant limb first: room for `size` 32-bit words and one more.
     std::uint64_t* data;

@@ -38,6 +38,10 @@ Limb magnitudeOf(long long v) noexcept {
 LargeInteger::LargeInteger() noexcept
     : data(bufferWith(0)), size(initialSize), highestBit(-1), negative(false) {}
 
+// Takes over a buffer.
+LargeInteger::LargeInteger(Limb* buffer, int capacity, int bound, bool flag) noexcept
+    : data(buffer), size(capacity), highestBit(bound), negative(flag) {}
+
 LargeInteger::LargeInteger(int v) noexcept : LargeInteger(static_cast<long long>(v)) {}
 
 LargeInteger::LargeInteger(unsigned int v) noexcept : LargeInteger(static_cast<long long>(v)) {}
