@@ -12,14 +12,14 @@ namespace interface_test {
 using bigint_test::Twin;
 
 struct Operand {
-    /// The number has exact books in a tight buffer.
+    /// The number has an exact bound and a tight buffer.
     Twin number;
     /// What the cached bound is raised by.
     int above = 0;
     /// A word that there is room for.
     int reserved = 0;
 
-    /// In place: a copy has other books, and so has what is moved.
+    /// In place: a copy has another bound and capacity, and so has what is moved.
     void assignTo(Twin& twin) const {
         twin.fast = number.fast;
         twin.plain = number.plain;

@@ -1,4 +1,4 @@
-// The operands reach the calls with the books that make them unusual.
+// The operands reach the calls with the bounds and capacities that make them unusual.
 #include "IntegerRows.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@ namespace {
 
 using namespace interface_test;
 
-TEST(Operands, KeepTheirBooksUntilTheCall) {
+TEST(Operands, KeepBoundAndCapacityUntilTheCall) {
     Results results;
     unary("", [](auto const& x) { return x.isOne(); }).exercise(results);
     std::string const text = results.text();
