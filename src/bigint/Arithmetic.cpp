@@ -125,13 +125,11 @@ LargeInteger& LargeInteger::operator*=(LargeInteger const& b) noexcept {
     bool const rightNegative = this != &b && b.negative && right.top >= 0;
     int const capacity = productCapacity(left, right.top);
     std::size_t const count = productLimbs(left, right);
-    std::size_t const room = std::max(count, bufferLimbs(capacity));
-    Limb* const out = newBuffer(room);
-    multiply(out, left, right);
-    std::fill(out + count, out + room, Limb{0});
-    LargeInteger product(out, capacity, checkedPosition(topBit(out, count)),
-                         leftNegative != rightNegative);
-    swapWith(product);
+    Workspace workspace(count);
+    multiply(workspace.rest(), left, right);
+    Representation::assign(*this, workspace.rest(), checkedPosition(topBit(workspace.rest(), count)),
+                           capacity);
+    negative = leftNegative != rightNegative;
     return *this;
 }
 
@@ -152,12 +150,12 @@ LargeInteger LargeInteger::operator-() const noexcept {
     return opposite;
 }
 
-LargeInteger& LargeInteger::operator++() noexcept {
+LargeInteger& LargeInteger::addOne() noexcept {
     Representation::add(*this, oneMagnitude, 0, false, false);
     return *this;
 }
 
-LargeInteger& LargeInteger::operator--() noexcept {
+LargeInteger& LargeInteger::subtractOne() noexcept {
     Representation::add(*this, oneMagnitude, 0, false, true);
     return *this;
 }

@@ -43,14 +43,8 @@ Limb bitsFrom(Limb const* a, int bound, long long start, long long count) noexce
 
 }  // namespace
 
-int LargeInteger::getHighestBit() const noexcept {
-    return Representation::magnitude(*this).top;
-}
-
-int LargeInteger::operator[](int i) const noexcept {
-    if (i < 0 || i > highestBit)
-        return 0;
-    return (data[limbIndex(i)] & bitMask(i)) != 0 ? 1 : 0;
+int LargeInteger::findHighestBit() const noexcept {
+    return static_cast<int>(topBit(data, limbCount(highestBit)));
 }
 
 void LargeInteger::setBit(int i) noexcept {

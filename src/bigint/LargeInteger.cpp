@@ -14,6 +14,14 @@ namespace {
 /// From this capacity on, a reset to zero releases the buffer.
 constexpr int releaseSize = 17;
 
+/// What a value without a buffer reads: the limbs of a new zero. Nothing writes them, since that
+/// value's capacity is 0.
+constexpr std::array<Limb, bufferLimbs(initialSize)> noLimbs{};
+
+Limb* withoutBuffer() noexcept {
+    return const_cast<Limb*>(noLimbs.data());
+}
+
 /// The limb in the buffer of a new value.
 Limb* bufferWith(Limb lowest) noexcept {
     Limb* const buffer = newBuffer(bufferLimbs(initialSize));
@@ -35,102 +43,100 @@ Limb magnitudeOf(long long v) noexcept {
 
 }  // namespace
 
-LargeInteger::LargeInteger() noexcept
-    : data(bufferWith(0)), size(initialSize), highestBit(-1), negative(false) {}
-
 // Takes over a buffer.
 LargeInteger::LargeInteger(Limb* buffer, int capacity, int bound, bool flag) noexcept
-    : data(buffer), size(capacity), highestBit(bound), negative(flag) {}
+    : data(buffer), size(capacity), highestBit(bound), room(tightRoom(capacity)), negative(flag) {}
+
+LargeInteger::LargeInteger() noexcept : LargeInteger(bufferWith(0), initialSize, -1, false) {}
 
 LargeInteger::LargeInteger(int v) noexcept : LargeInteger(static_cast<long long>(v)) {}
 
 LargeInteger::LargeInteger(unsigned int v) noexcept : LargeInteger(static_cast<long long>(v)) {}
 
 LargeInteger::LargeInteger(long long v) noexcept
-    : data(bufferWith(magnitudeOf(v))), size(initialSize),
-      highestBit(limbs::bitsPerLimb - 1 - std::countl_zero(magnitudeOf(v))), negative(v < 0) {}
+    : LargeInteger(bufferWith(magnitudeOf(v)), initialSize,
+                   limbs::bitsPerLimb - 1 - std::countl_zero(magnitudeOf(v)), v < 0) {}
 
 // Sized by the source's cached bound, where assignment goes by its exact top.
 LargeInteger::LargeInteger(LargeInteger const& source) noexcept
-    : data(copiedBuffer(source.data, tightSize(source.highestBit))),
-      size(tightSize(source.highestBit)), highestBit(source.getHighestBit()),
-      negative(source.negative) {}
+    : LargeInteger(copiedBuffer(source.data, tightSize(source.highestBit)),
+                   tightSize(source.highestBit), source.getHighestBit(), source.negative) {}
 
-LargeInteger::LargeInteger(LargeInteger&& source) noexcept : LargeInteger() {
-    int const copied = tightSize(source.highestBit);
-    if (source.size == copied) {
-        source.highestBit = source.getHighestBit();
-        swapWith(source);
-    } else {
-        std::free(data);
-        data = copiedBuffer(source.data, copied);
-        size = copied;
-        highestBit = source.getHighestBit();
-        negative = source.negative;
-        source.clear();
+LargeInteger::LargeInteger(LargeInteger&& source) noexcept
+    : LargeInteger(source.data, tightSize(source.highestBit), source.getHighestBit(),
+                   source.negative) {
+    room = source.room;
+    if (room == 0) {
+        data = bufferWith(0);
+        room = tightRoom(initialSize);
     }
+    source.data = withoutBuffer();
+    source.size = 0;
+    source.highestBit = -1;
+    source.room = 0;
+    source.negative = false;
 }
 
 LargeInteger::~LargeInteger() noexcept {
-    std::free(data);
+    Representation::release(*this);
 }
 
 LargeInteger& LargeInteger::operator=(LargeInteger const& source) noexcept {
     if (this == &source)
         return *this;
     highestBit = source.getHighestBit();
-    int const newSize = tightSize(highestBit);
     negative = source.negative;
-    if (bufferLimbs(newSize) == bufferLimbs(size)) {
-        std::memcpy(data, source.data, bufferLimbs(newSize) * sizeof(Limb));
-    } else {
-        std::free(data);
-        data = copiedBuffer(source.data, newSize);
-    }
-    size = newSize;
+    Representation::renew(*this, tightSize(highestBit));
+    std::memcpy(data, source.data, bufferLimbs(size) * sizeof(Limb));
     return *this;
 }
 
 LargeInteger& LargeInteger::operator=(LargeInteger&& source) noexcept {
     if (this == &source)
         return *this;
-    int const top = source.getHighestBit();
-    if (source.size == tightSize(top)) {
-        swapWith(source);
-        highestBit = top;
-    } else {
-        *this = static_cast<LargeInteger const&>(source);
-    }
-    source.clear();
+    LargeInteger taken(std::move(source));
+    taken.size = tightSize(taken.highestBit);
+    swapWith(taken);
     return *this;
 }
 
-void LargeInteger::swapWith(LargeInteger& other) noexcept {
-    std::swap(data, other.data);
-    std::swap(size, other.size);
-    std::swap(highestBit, other.highestBit);
-    std::swap(negative, other.negative);
-}
-
 void LargeInteger::clear() noexcept {
-    if (size >= releaseSize) {
-        std::free(data);
-        size = initialSize;
-        data = bufferWith(0);
-    } else {
-        std::fill_n(data, limbCount(highestBit), Limb{0});
+    if (size >= releaseSize || room == 0) {
+        LargeInteger zero;
+        swapWith(zero);
+        return;
     }
+    std::fill_n(data, limbCount(highestBit), Limb{0});
     highestBit = -1;
     negative = false;
 }
 
 void LargeInteger::ensureSize(int w) noexcept {
-    int const newSize = grownSize(size, w);
+    int const newSize = grownSize(std::max(size, initialSize), w);
     if (newSize == size)
         return;
-    data = checkedBuffer(std::realloc(data, bufferLimbs(newSize) * sizeof(Limb)));
-    std::fill(data + bufferLimbs(size), data + bufferLimbs(newSize), Limb{0});
+    std::size_t const used = room == 0 ? 0 : bufferLimbs(size);
+    if (room < tightRoom(newSize)) {
+        void* const old = room == 0 ? nullptr : data;
+        data = checkedBuffer(std::realloc(old, bufferLimbs(newSize) * sizeof(Limb)));
+        room = tightRoom(newSize);
+    }
+    std::fill(data + used, data + bufferLimbs(newSize), Limb{0});
     size = newSize;
+}
+
+void internal::Representation::replaceBuffer(LargeInteger& a, std::int32_t room) noexcept {
+    release(a);
+    a.data = newBuffer(static_cast<std::size_t>(room));
+    a.room = room;
+}
+
+void internal::Representation::assign(LargeInteger& a, Limb const* value, int top,
+                                      int capacity) noexcept {
+    assert(tightSize(top) <= capacity);
+    renew(a, capacity);
+    std::fill(std::copy_n(value, limbCount(top), a.data), a.data + bufferLimbs(capacity), Limb{0});
+    a.highestBit = top;
 }
 
 LargeInteger internal::Representation::sized(Limb* buffer, std::size_t used, int sizeTop,

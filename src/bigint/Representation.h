@@ -9,8 +9,27 @@ namespace qel::internal {
 
 struct Representation {
     [[nodiscard]] static Magnitude magnitude(LargeInteger const& a) noexcept {
-        return {a.data, static_cast<int>(topBit(a.data, limbIndex(a.highestBit + 1LL) + 1))};
+        return {a.data, a.getHighestBit()};
     }
+    /// Gives the buffer back; the object has none then, until it is given another.
+    static void release(LargeInteger& a) noexcept {
+        if (a.room != 0)
+            std::free(a.data);
+    }
+    /// The limbs are neither kept nor filled.
+    static void replaceBuffer(LargeInteger& a, std::int32_t room) noexcept;
+    /// Makes room for `capacity` words. The limbs are neither kept nor filled.
+    static void renew(LargeInteger& a, int capacity) noexcept {
+        // What is left over is at most what is used and a few limbs.
+        constexpr std::int32_t spare = 8;
+        std::int32_t const needed = tightRoom(capacity);
+        if (a.room < needed || a.room / 2 > needed + spare)
+            replaceBuffer(a, needed);
+        a.size = capacity;
+    }
+    /// Takes limbs from elsewhere, the index of their highest set bit and a capacity; the flag
+    /// stays.
+    static void assign(LargeInteger& a, Limb const* value, int top, int capacity) noexcept;
     /// A buffer for a result of at most `count` limbs.
     [[nodiscard]] static Limb* resultBuffer(std::size_t count) noexcept {
         return newBuffer(std::max(count + 1, bufferLimbs(initialSize)));
@@ -65,7 +84,6 @@ struct Representation {
     static void raise(LargeInteger& a, Magnitude base, Magnitude exponent,
                       Magnitude modulus) noexcept;
 
-    static void become(LargeInteger& a, Limb const* value, int top, int capacity) noexcept;
     template <int bits>
     static void parseBits(LargeInteger& a, char const* text) noexcept;
     static void parseDecimal(LargeInteger& a, char const* text) noexcept;

@@ -36,6 +36,11 @@ constexpr std::size_t bufferLimbs(int size) noexcept {
     return static_cast<std::size_t>(size) / 2 + 1;
 }
 
+/// The same as a value keeps it: the limbs of a buffer that is just large enough.
+constexpr std::int32_t tightRoom(int size) noexcept {
+    return static_cast<std::int32_t>(bufferLimbs(size));
+}
+
 /// The capacity of a tight copy of a value whose top bit is at or below `bound`.
 inline int tightSize(int bound) noexcept {
     return bound < initialSize * bitsPerWord ? initialSize : wordIndex(bound) + 1;

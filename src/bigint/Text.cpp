@@ -228,7 +228,7 @@ void internal::Representation::parseBits(LargeInteger& a, char const* text) noex
     readBits<bits>(filler, characters);
     auto const count = static_cast<std::size_t>(filler.finish() - value);
     int const top = checkedPosition(topBit(value, count));
-    become(a, value, top, capacityAfterDigits(a.size, top, bits));
+    assign(a, value, top, capacityAfterDigits(a.size, top, bits));
 }
 
 /// Reads into a plain zero. A product has a fresh buffer, so bound and capacity are those of the
@@ -252,22 +252,7 @@ void internal::Representation::parseDecimal(LargeInteger& a, char const* text) n
     limbs::multiplyLimb(value, value, count, 10);
     int const capacity = grownSize(productSize, wordIndex(topBit(value, count) + 1) + 1);
     limbs::addLimb(value, value, count, last);
-    become(a, value, checkedPosition(topBit(value, count)), capacity);
-}
-
-/// A plain zero becomes a value with an exact bound and the given capacity.
-void internal::Representation::become(LargeInteger& a, Limb const* value, int top,
-                                      int capacity) noexcept {
-    assert(a.highestBit < 0 && !a.negative && tightSize(top) <= capacity);
-    std::size_t const count = limbCount(top);
-    if (capacity != a.size) {
-        std::free(a.data);
-        a.data = newBuffer(bufferLimbs(capacity));
-        a.size = capacity;
-        std::fill(a.data + count, a.data + bufferLimbs(capacity), Limb{0});
-    }
-    std::copy_n(value, count, a.data);
-    a.highestBit = top;
+    assign(a, value, checkedPosition(topBit(value, count)), capacity);
 }
 
 }  // namespace qel
