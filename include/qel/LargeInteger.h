@@ -3,7 +3,9 @@
 #ifndef QEL_LARGEINTEGER_H
 #define QEL_LARGEINTEGER_H
 
+#include <array>
 #include <cstdint>
+#include <cstdlib>
 #include <string>
 #include <utility>
 
@@ -11,11 +13,13 @@ namespace qel {
 
 namespace internal {
 struct Representation;  // of the library's own sources
-}
+class ResultLimbs;
+}  // namespace internal
 
 /// A signed integer of any width, with bit access and number theory.
 ///
-/// A value type: each object owns its buffer, a copy is a deep one. The representation is a
+/// A value type: each object owns its limbs, a copy is a deep one. A value whose capacity is nine
+/// 32-bit words or fewer needs no memory beside the object. The representation is a
 /// magnitude and a sign flag, not two's complement. A zero may carry the flag (a negative zero);
 /// every query treats it as zero, it compares equal to zero and prints without a sign.
 ///
@@ -42,7 +46,7 @@ class LargeInteger {
     /// @{
 
     /// Zero.
-    LargeInteger() noexcept;
+    LargeInteger() noexcept : data(own.data()) {}
     /// The value `v`.
     LargeInteger(int v) noexcept;
     /// The value `v`.
@@ -52,20 +56,24 @@ class LargeInteger {
     /// So is every other 64-bit type but `long long`: `std::size_t`, `std::uint64_t`, and on Linux
     /// `std::int64_t`. An unsigned one is `(LargeInteger(high) << 32) + LargeInteger(low)`.
     LargeInteger(long long v) noexcept;
-    /// A deep copy, in a buffer just large enough for the source's cached bound.
+    /// A deep copy, with a capacity just large enough for the source's cached bound.
     LargeInteger(LargeInteger const& source) noexcept;
-    /// What a copy would be, without copying. The source becomes zero, and owns no memory until it
-    /// is given a value.
+    /// What a copy would be, without copying memory. The source becomes zero.
     LargeInteger(LargeInteger&& source) noexcept;
     /// Gives the memory back.
-    ~LargeInteger() noexcept;
+    ~LargeInteger() noexcept {
+        if (data != own.data())
+            std::free(data);
+    }
     /// A deep copy, with a capacity just large enough for the value. Self-assignment does nothing.
     LargeInteger& operator=(LargeInteger const& source) noexcept;
-    /// What the assigned copy would be, without copying. The source becomes zero, unless it is this
-    /// object, and owns no memory until it is given a value.
+    /// What the assigned copy would be, without copying memory. The source becomes zero, unless it
+    /// is this object.
     LargeInteger& operator=(LargeInteger&& source) noexcept;
-    /// Exchanges the two values without copying.
+    /// Exchanges the two values without copying memory.
     void swapWith(LargeInteger& other) noexcept {
+        if (data == own.data() || other.data == other.own.data())
+            swapOwnLimbs(other);
         std::swap(data, other.data);
         std::swap(size, other.size);
         std::swap(highestBit, other.highestBit);
@@ -348,28 +356,34 @@ class LargeInteger {
 
     static constexpr int bitsPerLimb = 64;
 
-    LargeInteger(std::uint64_t* limbs, int capacity, int bound, bool flag) noexcept;
+    /// The `used` limbs of a result, with a capacity that holds them.
+    LargeInteger(internal::ResultLimbs& limbs, std::size_t used, int capacity, int bound,
+                 bool flag) noexcept;
 
     /// The bits of the limb of the cached bound, from the bound up: 1 where the bound is exact.
     [[nodiscard]] std::uint64_t leading() const noexcept {
         return data[highestBit / bitsPerLimb] >> (highestBit % bitsPerLimb);
     }
+    void swapOwnLimbs(LargeInteger& other) noexcept;
     [[nodiscard]] int findHighestBit() const noexcept;
     [[nodiscard]] bool isSame(LargeInteger const& other) const noexcept;
     LargeInteger& addOne() noexcept;
     LargeInteger& subtractOne() noexcept;
 
-    /// The magnitude, least significant limb first: room for `size` 32-bit words and one more.
+    /// The limbs of a value that needs no more.
+    std::array<std::uint64_t, 5> own{};
+    /// The magnitude, least significant limb first: room for `size` 32-bit words and one more, in
+    /// the object itself or on the heap.
     std::uint64_t* data;
-    /// Capacity in 32-bit words; 0 for a value that was moved away.
-    std::int32_t size;
+    /// Capacity in 32-bit words.
+    std::int32_t size = 4;
     /// An upper bound of the index of the highest set bit; -1 for no bits. It may be too high
     /// after operations that can only lower the top: bits between are zero.
-    std::int32_t highestBit;
-    /// The limbs that the buffer holds; 0 for one that is not owned.
-    std::int32_t room;
+    std::int32_t highestBit = -1;
+    /// The limbs at `data`, used or not.
+    std::int32_t room = 5;
     /// The sign flag; without meaning on a zero magnitude, but kept.
-    bool negative;
+    bool negative = false;
 };
 
 }  // namespace qel

@@ -128,7 +128,8 @@ LargeInteger LargeInteger::getBitRange(int start, int count) const noexcept {
         return LargeInteger();
     int const newSize = grownSize(initialSize, wordIndex(n));
     std::size_t const used = limbCount(n - 1);
-    Limb* const out = newBuffer(bufferLimbs(newSize));
+    ResultLimbs limbs(std::max(used, bufferLimbs(newSize)));
+    Limb* const out = limbs.get();
     Limb const* const first = data + limbIndex(start);
     auto const shift = static_cast<int>(start % limbs::bitsPerLimb);
     if (shift == 0)
@@ -138,8 +139,7 @@ LargeInteger LargeInteger::getBitRange(int start, int count) const noexcept {
     // The last limb takes bits from above, and gives up those beyond the range.
     long long const done = static_cast<long long>(used - 1) * limbs::bitsPerLimb;
     out[used - 1] = bitsFrom(data, highestBit, start + done, n - done);
-    std::fill(out + used, out + bufferLimbs(newSize), Limb{0});
-    return LargeInteger(out, newSize, static_cast<int>(topBit(out, used)), false);
+    return {limbs, used, newSize, static_cast<int>(topBit(out, used)), false};
 }
 
 int LargeInteger::findNextSetBit(int start) const noexcept {
