@@ -126,7 +126,7 @@ class ResultLimbs {
     }
 
   private:
-    std::array<Limb, 10> local;
+    std::array<Limb, 6> local;  // as many as an object keeps, and a carry's
     std::size_t room;
     Limb* memory;
 };
