@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <utility>
 
@@ -63,7 +62,7 @@ class LargeInteger {
     /// Gives the memory back.
     ~LargeInteger() noexcept {
         if (data != own.data())
-            std::free(data);
+            freeMemory();
     }
     /// A deep copy, with a capacity just large enough for the value. Self-assignment does nothing.
     LargeInteger& operator=(LargeInteger const& source) noexcept;
@@ -364,6 +363,7 @@ class LargeInteger {
     [[nodiscard]] std::uint64_t leading() const noexcept {
         return data[highestBit / bitsPerLimb] >> (highestBit % bitsPerLimb);
     }
+    void freeMemory() noexcept;
     void swapOwnLimbs(LargeInteger& other) noexcept;
     [[nodiscard]] int findHighestBit() const noexcept;
     [[nodiscard]] bool isSame(LargeInteger const& other) const noexcept;

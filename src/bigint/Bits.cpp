@@ -31,7 +31,7 @@ void forEachLimb(Limb* a, long long start, long long end, Apply apply) noexcept 
     }
 }
 
-/// `count` <= 64 bits from `start` up, at or below the bound.
+/// `count` <= 64 bits from `start` up, which is at or below the bound; above it there are zeros.
 Limb bitsFrom(Limb const* a, int bound, long long start, long long count) noexcept {
     std::size_t const i = limbIndex(start);
     auto const shift = static_cast<int>(start % limbs::bitsPerLimb);
@@ -88,11 +88,9 @@ void LargeInteger::setRange(int start, int count, bool value) noexcept {
 }
 
 int LargeInteger::getBitRangeAsInt(int start, int count) const noexcept {
-    long long const n = std::min({static_cast<long long>(count),
-                                  static_cast<long long>(bitsPerWord), highestBit + 1LL - start});
-    if (start < 0 || n <= 0)
+    if (start < 0 || count <= 0 || start > highestBit)
         return 0;
-    return static_cast<int>(bitsFrom(data, highestBit, start, n));
+    return static_cast<int>(bitsFrom(data, highestBit, start, std::min(count, bitsPerWord)));
 }
 
 // Set bits grow one after the other; clear ones above the bound are ignored.

@@ -73,9 +73,14 @@ LargeInteger& LargeInteger::operator=(LargeInteger&& source) noexcept {
     if (this == &source)
         return *this;
     if (data != own.data())
-        std::free(data);
+        freeMemory();
     Representation::take(*this, source, source.getHighestBit());
     return *this;
+}
+
+/// Out of line, so that the header asks for no more than a comparison.
+void LargeInteger::freeMemory() noexcept {
+    std::free(data);
 }
 
 /// Exchanges the limbs in the objects, and lets each pointer to them point into the other one.
