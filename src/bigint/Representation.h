@@ -58,7 +58,7 @@ struct Representation {
     static void shiftRightFrom(LargeInteger& a, int from, long long count) noexcept;
     [[nodiscard]] static LargeInteger shifted(LargeInteger const& a, long long distance) noexcept;
 
-    static void subtractWhileLarger(LargeInteger& a, LargeInteger const& b) noexcept;
+    static void reduceToDivisor(LargeInteger& a, LargeInteger& b) noexcept;
     [[nodiscard]] static LargeInteger gcdOfMagnitudes(LargeInteger const& a,
                                                       LargeInteger const& b) noexcept;
     [[nodiscard]] static bool invert(LargeInteger& a, LargeInteger const& m) noexcept;
