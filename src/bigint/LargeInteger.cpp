@@ -11,9 +11,6 @@ using namespace internal;
 
 namespace {
 
-/// From this capacity on, a reset to zero releases the buffer.
-constexpr int releaseSize = 17;
-
 /// The limb in the buffer of a new value.
 Limb* bufferWith(Limb lowest) noexcept {
     Limb* const buffer = newBuffer(bufferLimbs(initialSize));

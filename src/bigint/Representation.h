@@ -65,7 +65,10 @@ struct Representation {
     static void raise(LargeInteger& a, Magnitude base, Magnitude exponent,
                       Magnitude modulus) noexcept;
 
-    static void become(LargeInteger& a, Limb const* value, int top, int capacity) noexcept;
+    static void become(LargeInteger& a, Limb const* value, std::size_t count, int bound,
+                       int capacity) noexcept;
+    static void becomeQuotient(LargeInteger& a, int emptySize, Limb const* quotient,
+                               int top) noexcept;
     template <int bits>
     static void parseBits(LargeInteger& a, char const* text) noexcept;
     static void parseDecimal(LargeInteger& a, char const* text) noexcept;

@@ -9,9 +9,9 @@
 // A matrix of determinant 1 keeps the gcd. It is a product of subtractions, each of which leaves
 // both numbers positive, by the same bound: so they are those that repeated subtraction takes.
 //
-// The 128 bits are taken in two halves in the same way, each by Euclid on single limbs. What is left
-// at the end of a gcd is two limbs each, which the binary algorithm takes, unless it must be told
-// where subtraction leaves the gcd.
+// The 128 bits are taken in two halves in the same way, each by Euclid on single limbs. What is
+// left at the end of a gcd is two limbs each, which the binary algorithm takes, unless it must be
+// told where subtraction leaves the gcd.
 #include "Gcd.h"
 
 #include "Reciprocal.h"
