@@ -115,7 +115,7 @@ Limb remainderLimb(Limb const* a, std::size_t count, Limb divisor) noexcept {
 }
 
 Limb divideLimb(Limb* quotient, Limb const* a, std::size_t count, Limb divisor) noexcept {
-    if (std::has_single_bit(divisor))
+    if ((divisor & (divisor - 1)) == 0)
         return divideByPower(quotient, a, count, divisor);
     if (count < divideLimbReciprocal)
         return divideLimbDirectly(quotient, a, count, divisor);

@@ -231,14 +231,20 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
     }
     if (larger.cofactor == nullptr)
         return;
-    // The sum is again the size of a cofactor, which is at most m: what stands above is zero. Long
-    // quotients are so rare that rows will do.
-    std::size_t const quotientCount = significant(quotient, aCount + 1 - count);
-    std::size_t const other = significant(smaller.cofactor, cofactorCount);
-    for (std::size_t i = 0; i < quotientCount; ++i) {
-        Limb* const above = larger.cofactor + i + other;
-        Limb const carry = addMultiply(larger.cofactor + i, smaller.cofactor, other, quotient[i]);
-        addLimb(above, above, cofactorCount - i - other, carry);
+    // The sum is again the size of a cofactor, which is at most m: what stands above is zero. Two
+    // long factors are so rare that rows will do.
+    Limb const* rows = quotient;
+    std::size_t rowCount = significant(quotient, aCount + 1 - count);
+    Limb const* row = smaller.cofactor;
+    std::size_t width = significant(row, cofactorCount);
+    if (rowCount > width) {
+        std::swap(rows, row);
+        std::swap(rowCount, width);
+    }
+    for (std::size_t i = 0; i < rowCount; ++i) {
+        Limb* const above = larger.cofactor + i + width;
+        Limb const carry = addMultiply(larger.cofactor + i, row, width, rows[i]);
+        addLimb(above, above, cofactorCount - i - width, carry);
     }
     cofactorUsed = std::max(cofactorUsed, significant(larger.cofactor, cofactorCount));
 }
