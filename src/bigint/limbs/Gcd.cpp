@@ -207,10 +207,10 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
     // Two numbers of one length have a small quotient, which subtraction finds.
     if (aCount == count && larger.number[count - 1] / smaller.number[count - 1] < 4) {
         quotient[0] = 0;
-        while (compare(larger.number, smaller.number, count) >= 0) {
+        do {
             subtract(larger.number, larger.number, smaller.number, count);
             ++quotient[0];
-        }
+        } while (compare(larger.number, smaller.number, count) >= 0);
     } else if (count == 1) {
         larger.number[0] = divideLimb(quotient, larger.number, aCount, smaller.number[0]);
         std::fill(larger.number + 1, larger.number + aCount, Limb{0});
@@ -236,7 +236,7 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
     Limb const* rows = quotient;
     std::size_t rowCount = significant(quotient, aCount + 1 - count);
     Limb const* row = smaller.cofactor;
-    std::size_t width = significant(row, cofactorCount);
+    std::size_t width = significant(row, cofactorUsed);
     if (rowCount > width) {
         std::swap(rows, row);
         std::swap(rowCount, width);
@@ -246,7 +246,9 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
         Limb const carry = addMultiply(larger.cofactor + i, row, width, rows[i]);
         addLimb(above, above, cofactorCount - i - width, carry);
     }
-    cofactorUsed = std::max(cofactorUsed, significant(larger.cofactor, cofactorCount));
+    std::size_t const most = std::max(rowCount + width, cofactorUsed) + 1;
+    cofactorUsed =
+        std::max(cofactorUsed, significant(larger.cofactor, std::min(most, cofactorCount)));
 }
 
 /// The gcd of two odd limbs, by subtraction and shifts (Stein, "Computational problems associated
