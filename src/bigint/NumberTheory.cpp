@@ -154,19 +154,23 @@ LargeInteger internal::Representation::gcdOfMagnitudes(LargeInteger const& a,
 // Extended Euclid on (m, this): the coefficients c and d follow the remainders a and b, with m
 // standing for the first coefficient 0. Rounds end when the remainder is exactly +1.
 void LargeInteger::inverseModulo(LargeInteger const& m) noexcept {
-    if (m.isOne() || m.isNegative()) {
+    Magnitude const modulus = Representation::magnitude(m);
+    if (m.negative ? modulus.top >= 0 : modulus.top == 0) {
         clear();
         return;
     }
-    if (isNegative() || compareAbsolute(m) >= 0)
+    Magnitude value = Representation::magnitude(*this);
+    if ((negative && value.top >= 0) || compareMagnitudes(value, modulus) >= 0) {
         *this %= m;
-    if (isOne())
+        value = Representation::magnitude(*this);
+    }
+    if (!negative && value.top == 0)
         return;
-    if ((*this)[0] == 0) {
+    if (value.top < 0 || value.value[0] % 2 == 0) {
         clear();
         return;
     }
-    if (!isNegative() && Representation::invert(*this, m))
+    if (!negative && Representation::invert(*this, value, modulus))
         return;
     // A negative value ends where the remainders, signs and all, come to +1; one that shares a
     // factor with m never does.
@@ -190,16 +194,15 @@ void LargeInteger::inverseModulo(LargeInteger const& m) noexcept {
     swapWith(d);
 }
 
-/// Becomes its inverse, for 1 < this < m; false, and unchanged, when there is none.
+/// Becomes the inverse of its value, for 1 < value < m; false, and unchanged, when there is none.
 ///
 /// The books are those of the extended Euclid's last coefficient d before its reduction. With
 /// s m + t v = 1 for this value v, d is t + s m = 1 - t (v - 1), since the coefficients start from
 /// m and 1 instead of 0 and 1; and |t| <= m / 2, as Euclid's are. So t is the inverse i or i - m,
 /// whichever is smaller in size. A negative t makes d positive, which then keeps its own bound; a
 /// positive t makes d negative, and adding m leaves the bound of m.
-bool internal::Representation::invert(LargeInteger& a, LargeInteger const& m) noexcept {
-    Magnitude const value = magnitude(a);
-    Magnitude const divisor = magnitude(m);
+bool internal::Representation::invert(LargeInteger& a, Magnitude value,
+                                      Magnitude divisor) noexcept {
     std::size_t const count = limbCount(divisor.top);
     Workspace workspace(3 * count + limbs::inverseScratch(count));
     Limb* const v = workspace.take(count);
@@ -219,9 +222,7 @@ bool internal::Representation::invert(LargeInteger& a, LargeInteger const& m) no
         v[0] -= 1;
         bound = checkedPosition(topOfProduct(modulus, v, count));
     }
-    LargeInteger inverse = copied(out, count, bound, false);
-    inverse.highestBit = bound;
-    a.swapWith(inverse);
+    become(a, out, std::min(count, limbCount(bound)), bound, tightSize(bound));
     return true;
 }
 

@@ -61,7 +61,7 @@ struct Representation {
     static void reduceToDivisor(LargeInteger& a, LargeInteger& b) noexcept;
     [[nodiscard]] static LargeInteger gcdOfMagnitudes(LargeInteger const& a,
                                                       LargeInteger const& b) noexcept;
-    [[nodiscard]] static bool invert(LargeInteger& a, LargeInteger const& m) noexcept;
+    [[nodiscard]] static bool invert(LargeInteger& a, Magnitude value, Magnitude divisor) noexcept;
     static void raise(LargeInteger& a, Magnitude base, Magnitude exponent,
                       Magnitude modulus) noexcept;
 
