@@ -39,7 +39,7 @@ TEST(LimbDivideLimb, TakesDivisorsOfEachLength) {
     Operands operands(52);
     for (int bits = 0; bits < 64; ++bits) {
         for (Pattern const pattern : patterns) {
-            for (std::size_t const count : {2U, 5U, 19U}) {
+            for (std::size_t const count : {2U, 9U, 19U}) {
                 Limbs const a = operands.make(pattern, count);
                 expectQuotientByLimb(a, Limb{1} << bits);
                 expectQuotientByLimb(a, (topBit | operands.limb()) >> bits);
