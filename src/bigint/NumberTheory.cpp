@@ -115,31 +115,30 @@ LargeInteger LargeInteger::findGreatestCommonDivisor(LargeInteger other) const n
     constexpr int closeEnough = 16;
     LargeInteger const* a = this;
     std::optional<LargeInteger> divisor;
-    while (!other.isZero()) {
-        if (std::abs(a->getHighestBit() - other.getHighestBit()) > closeEnough) {
+    for (;;) {
+        Magnitude const first = Representation::magnitude(*a);
+        Magnitude const second = Representation::magnitude(other);
+        if (second.top < 0)
+            return Representation::copied(first.value, first.count(), first.top, a->negative);
+        if (std::abs(first.top - second.top) > closeEnough) {
             LargeInteger const remainder = *a % other;
             divisor = other;
             a = &*divisor;
             other = remainder;
-        } else if (a->isNegative() || other.isNegative()) {
+        } else if ((a->negative && first.top >= 0) || other.negative) {
             // Which signs come to an end, and with which sign, rests on the documented steps.
-            LargeInteger first(*a);
-            return simpleGCD(&first, &other);
+            LargeInteger dividend(*a);
+            return simpleGCD(&dividend, &other);
         } else {
-            return Representation::gcdOfMagnitudes(*a, other);
+            return Representation::gcdOfMagnitudes(first, second);
         }
     }
-    Magnitude const last = Representation::magnitude(*a);
-    return Representation::copied(last.value, last.count(), last.top, a->negative);
 }
 
 /// What simpleGCD returns for two values that are not negative: a copy of the one that is not zero
 /// in the end, under the bound that it had from the beginning. That bound tells no more than the
 /// capacity.
-LargeInteger internal::Representation::gcdOfMagnitudes(LargeInteger const& a,
-                                                       LargeInteger const& b) noexcept {
-    Magnitude const first = magnitude(a);
-    Magnitude const second = magnitude(b);
+LargeInteger internal::Representation::gcdOfMagnitudes(Magnitude first, Magnitude second) noexcept {
     int const size = std::max(first.top, second.top);
     if (size < 2 * limbs::bitsPerLimb) {
         limbs::DoubleLimb const divisor = limbs::gcdOfPairs(pairOf(first), pairOf(second));

@@ -59,8 +59,7 @@ struct Representation {
     [[nodiscard]] static LargeInteger shifted(LargeInteger const& a, long long distance) noexcept;
 
     static void reduceToDivisor(LargeInteger& a, LargeInteger& b) noexcept;
-    [[nodiscard]] static LargeInteger gcdOfMagnitudes(LargeInteger const& a,
-                                                      LargeInteger const& b) noexcept;
+    [[nodiscard]] static LargeInteger gcdOfMagnitudes(Magnitude first, Magnitude second) noexcept;
     [[nodiscard]] static bool invert(LargeInteger& a, Magnitude value, Magnitude divisor) noexcept;
     static void raise(LargeInteger& a, Magnitude base, Magnitude exponent,
                       Magnitude modulus) noexcept;
