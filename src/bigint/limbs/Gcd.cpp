@@ -99,6 +99,11 @@ DoubleLimb leading(Limb const* a, std::size_t count, int shift) noexcept {
     return (top << shift) | (below >> (bitsPerLimb - shift));
 }
 
+void storePair(Limb* out, DoubleLimb pair) noexcept {
+    out[0] = low(pair);
+    out[1] = high(pair);
+}
+
 void complement(Limb* out, Limb const* a, std::size_t count) noexcept {
     for (std::size_t i = 0; i < count; ++i)
         out[i] = ~a[i];
@@ -161,6 +166,13 @@ class Reduction {
     /// (a, b) = (m11 a - m01 b, m00 b - m10 a), both known to be non-negative and below 2^(64
     /// count) = B, modulo which -y b is y (B - 1 - b) + y.
     void applyInverse(std::size_t count, Matrix const& m) noexcept {
+        if (count == 2) {
+            DoubleLimb const first = join(a.number[1], a.number[0]);
+            DoubleLimb const second = join(b.number[1], b.number[0]);
+            storePair(a.number, m.m11 * first - m.m01 * second);
+            storePair(b.number, m.m00 * second - m.m10 * first);
+            return;
+        }
         Limb* const minusA = scratch;
         Limb* const minusB = scratch + count;
         complement(minusA, a.number, count);
@@ -302,16 +314,25 @@ struct LimbGcd {
     bool negative;
 };
 
+/// larger %= smaller; false where nothing is left of it.
+bool reduce(LimbGcd& larger, LimbGcd const& smaller) noexcept {
+    Limb const q = larger.gcd / smaller.gcd;
+    larger.gcd -= q * smaller.gcd;
+    larger.s += q * smaller.s;
+    larger.t += q * smaller.t;
+    return larger.gcd != 0;
+}
+
 LimbGcd gcdOfLimbs(Limb v, Limb r) noexcept {
-    LimbGcd result{v, 1, 0, false};
-    LimbGcd next{r, 0, 1, true};
-    while (next.gcd != 0) {
-        Limb const q = result.gcd / next.gcd;
-        LimbGcd const rest{result.gcd - q * next.gcd, result.s + q * next.s, result.t + q * next.t,
-                           result.negative};
-        result = std::exchange(next, rest);
+    LimbGcd first{v, 1, 0, false};
+    LimbGcd second{r, 0, 1, true};
+    if (r == 0)
+        return first;
+    while (reduce(first, second)) {
+        if (!reduce(second, first))
+            return first;
     }
-    return result;
+    return second;
 }
 
 /// With m = q v + r and k r + 1 = j v the inverse of v is (k m + 1) / v = k q + j, which is below m
@@ -367,8 +388,7 @@ void gcdAlone(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noe
     }
     DoubleLimb const divisor = gcdOfPairs(join(a[1], a[0]), join(b[1], b[0]));
     std::fill(out, out + count, Limb{0});
-    out[0] = low(divisor);
-    out[1] = high(divisor);
+    storePair(out, divisor);
 }
 
 // Both cofactors with a limb to spare, the modulus, and a division step.
