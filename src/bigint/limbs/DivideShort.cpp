@@ -103,6 +103,25 @@ Limb foldedRemainder(Limb const* a, std::size_t count, Limb d) noexcept {
     return divideDirectly(high(sum), low(sum), d).remainder;
 }
 
+/// Divides the lower half beside the upper one, from whose remainder it starts: each digit waits
+/// for the one before, which leaves the processor time for two.
+Limb divideInHalves(Limb* quotient, Limb const* a, std::size_t count, Limb divisor) noexcept {
+    ByLimb const by(divisor);
+    std::size_t const lower = count / 2;
+    Limb const below = a[lower - 1];  // the quotient may be a
+    Limb upperRest = by.shifted(0, a[count - 1]);
+    Limb rest = by.shifted(foldedRemainder(a + lower, count - lower, divisor), below);
+    std::size_t i = count - 1;
+    for (std::size_t j = lower - 1; j > 0; --i, --j) {
+        upperRest = by.digit(quotient[i], upperRest, a[i], a[i - 1]);
+        rest = by.digit(quotient[j], rest, a[j], a[j - 1]);
+    }
+    for (; i > lower; --i)
+        upperRest = by.digit(quotient[i], upperRest, a[i], a[i - 1]);
+    static_cast<void>(by.digit(quotient[lower], upperRest, a[lower], below));
+    return by.digit(quotient[0], rest, a[0], 0) >> by.shifted.shift;
+}
+
 }  // namespace
 
 Limb remainderLimb(Limb const* a, std::size_t count, Limb divisor) noexcept {
@@ -119,27 +138,11 @@ Limb divideLimb(Limb* quotient, Limb const* a, std::size_t count, Limb divisor) 
         return divideByPower(quotient, a, count, divisor);
     if (count < divideLimbReciprocal)
         return divideLimbDirectly(quotient, a, count, divisor);
+    if (divisor < foldedDivisors && count >= divideLimbSplit)
+        return divideInHalves(quotient, a, count, divisor);
     ByLimb const by(divisor);
-    std::size_t const lower = divisor < foldedDivisors && count >= divideLimbSplit ? count / 2 : 0;
     Limb rest = by.shifted(0, a[count - 1]);
-    std::size_t i = count - 1;
-    if (lower != 0) {
-        // The lower half is divided beside the upper one, from whose remainder it starts: each
-        // digit waits for the one before, which leaves the processor time for two.
-        Limb const below = a[lower - 1];
-        Limb lowerRest = by.shifted(remainderLimb(a + lower, count - lower, divisor), below);
-        std::size_t j = lower - 1;
-        for (; j > 0; --i, --j) {
-            rest = by.digit(quotient[i], rest, a[i], a[i - 1]);
-            lowerRest = by.digit(quotient[j], lowerRest, a[j], a[j - 1]);
-        }
-        for (; i > lower; --i)
-            rest = by.digit(quotient[i], rest, a[i], a[i - 1]);
-        rest = by.digit(quotient[lower], rest, a[lower], below);
-        rest = lowerRest;
-        i = 0;
-    }
-    for (; i > 0; --i)
+    for (std::size_t i = count - 1; i > 0; --i)
         rest = by.digit(quotient[i], rest, a[i], a[i - 1]);
     return by.digit(quotient[0], rest, a[0], 0) >> by.shifted.shift;
 }
