@@ -18,11 +18,16 @@ namespace {
 /// operand may be the result's own object.
 class Quotient {
   public:
-    /// Divides; neither operand is zero.
-    Quotient(Magnitude dividend, Magnitude divisor) noexcept;
+    /// Divides; neither operand is zero. The quotient goes to `out`, which has room for as many
+    /// limbs as countOf tells, if there is one.
+    Quotient(Magnitude dividend, Magnitude divisor, Limb* out = nullptr) noexcept;
+
+    static std::size_t countOf(Magnitude dividend, Magnitude divisor) noexcept {
+        return dividend.top < divisor.top ? 0 : dividend.count() + 1 - divisor.count();
+    }
 
     Limb const* quotient = nullptr;
-    std::size_t quotientCount = 0;
+    std::size_t quotientCount;
     Limb const* remainder = nullptr;
     std::size_t remainderCount;
 
@@ -38,8 +43,9 @@ class Quotient {
     Workspace workspace;
 };
 
-Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
-    : remainderCount(divisor.count()), workspace(workspaceFor(dividend, divisor)) {
+Quotient::Quotient(Magnitude dividend, Magnitude divisor, Limb* out) noexcept
+    : quotientCount(countOf(dividend, divisor)), remainderCount(divisor.count()),
+      workspace(workspaceFor(dividend, divisor)) {
     std::size_t const aCount = dividend.count();
     std::size_t const count = divisor.count();
     if (dividend.top < divisor.top) {
@@ -49,8 +55,7 @@ Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
         remainderCount = aCount;
         return;
     }
-    quotientCount = aCount + 1 - count;
-    Limb* const q = workspace.take(quotientCount);
+    Limb* const q = out != nullptr ? out : workspace.take(quotientCount);
     Limb* const a = workspace.take(aCount + 1);
     quotient = q;
     remainder = a;
@@ -175,15 +180,10 @@ LargeInteger LargeInteger::operator/(LargeInteger const& divisor) const noexcept
     Magnitude const by = Representation::magnitude(divisor);
     if (dividend.top < 0 || by.top < 0)
         return LargeInteger();
-    bool const flag = negative != divisor.negative;
-    std::size_t const count = dividend.count();
-    if (by.count() == 1) {
-        Limb* const buffer = Representation::resultBuffer(count);
-        limbs::divideLimb(buffer, dividend.value, count, by.value[0]);
-        return Representation::tight(buffer, count, flag);
-    }
-    Quotient const result(dividend, by);
-    return Representation::copied(result.quotient, result.quotientCount, result.top(), flag);
+    std::size_t const count = Quotient::countOf(dividend, by);
+    Limb* const buffer = Representation::resultBuffer(count);
+    Quotient const result(dividend, by, buffer);
+    return Representation::tight(buffer, count, negative != divisor.negative);
 }
 
 LargeInteger LargeInteger::operator%(LargeInteger const& divisor) const noexcept {
