@@ -131,8 +131,8 @@ LargeInteger& LargeInteger::operator*=(LargeInteger const& b) noexcept {
     std::size_t const count = productLimbs(left, right);
     Workspace workspace(count);
     multiply(workspace.rest(), left, right);
-    Representation::assign(*this, workspace.rest(),
-                           checkedPosition(topBit(workspace.rest(), count)), capacity);
+    int const top = checkedPosition(topBit(workspace.rest(), count));
+    Representation::become(*this, workspace.rest(), limbCount(top), top, capacity);
     negative = leftNegative != rightNegative;
     return *this;
 }

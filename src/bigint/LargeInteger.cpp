@@ -11,9 +11,6 @@ using namespace internal;
 
 namespace {
 
-/// From this capacity on, a reset to zero releases the buffer.
-constexpr int releaseSize = 17;
-
 /// |v| as an unsigned value: negating before widening would overflow for the most negative v.
 Limb magnitudeOf(long long v) noexcept {
     return v < 0 ? 0 - static_cast<Limb>(v) : static_cast<Limb>(v);
@@ -155,16 +152,16 @@ void internal::Representation::replaceBuffer(LargeInteger& a, int capacity) noex
     a.room = static_cast<std::int32_t>(fits ? a.own.size() : needed);
 }
 
-void internal::Representation::assign(LargeInteger& a, Limb const* value, int top,
-                                      int capacity) noexcept {
-    assert(tightSize(top) <= capacity);
+void internal::Representation::become(LargeInteger& a, Limb const* value, std::size_t count,
+                                      int bound, int capacity) noexcept {
+    assert(tightSize(bound) <= capacity && topBit(value, count) <= bound);
     renew(a, capacity);
-    a.highestBit = top;
-    if (a.data == a.own.data()) {
-        setOwnLimbs(a, value, limbCount(top));
-        return;
-    }
-    std::fill(std::copy_n(value, limbCount(top), a.data), a.data + bufferLimbs(capacity), Limb{0});
+    a.highestBit = bound;
+    a.negative = false;
+    if (a.data == a.own.data())
+        setOwnLimbs(a, value, count);
+    else
+        std::fill(std::copy_n(value, count, a.data), a.data + bufferLimbs(capacity), Limb{0});
 }
 
 LargeInteger internal::Representation::copied(Limb const* value, std::size_t count, int sizeTop,

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cassert>
 #include <cstdlib>
-#include <numeric>
 #include <optional>
 #include <utility>
 
@@ -47,34 +46,68 @@ long long topOfProduct(Limb const* x, Limb const* y, std::size_t count) noexcept
     return topBit(product, 2 * count);
 }
 
+/// A number of up to two limbs.
+limbs::DoubleLimb pairOf(Magnitude a) noexcept {
+    Limb pair[2];
+    loadLimbs(pair, 2, a);
+    return (limbs::DoubleLimb{pair[1]} << limbs::bitsPerLimb) | pair[0];
+}
+
+/// The greatest common divisor of two magnitudes, and which of them subtraction leaves it in,
+/// unless only the divisor is asked for.
+class CommonDivisor {
+  public:
+    CommonDivisor(Magnitude first, Magnitude second, bool isAlone) noexcept
+        : count(std::max(first.count(), second.count())),
+          workspace(3 * count + limbs::gcdScratch(count)) {
+        Limb* const x = workspace.take(count);
+        Limb* const y = workspace.take(count);
+        Limb* const out = workspace.take(count);
+        loadLimbs(x, count, first);
+        loadLimbs(y, count, second);
+        if (isAlone)
+            limbs::gcdAlone(out, x, y, count, workspace.rest());
+        else
+            isInSecond = limbs::gcd(out, x, y, count, workspace.rest());
+        value = out;
+    }
+
+    std::size_t count;
+    Limb const* value;
+    bool isInSecond = false;
+
+  private:
+    Workspace workspace;
+};
+
 }  // namespace
 
 LargeInteger LargeInteger::simpleGCD(LargeInteger* a, LargeInteger* b) noexcept {
     assert((a->isZero() || (!b->isZero() && a->isNegative() == b->isNegative()))
            && "simpleGCD: b must not be zero, and no operand negative");
-    LargeInteger* x = a;
-    LargeInteger* y = b;
-    while (!x->isZero()) {
-        if (y->compareAbsolute(*x) > 0) {
-            Representation::subtractWhileLarger(*y, *x);
-            std::swap(x, y);
-        } else {
-            Representation::subtractWhileLarger(*x, *y);
-        }
-    }
-    return LargeInteger(*y);
+    if (!a->isZero())
+        Representation::reduceToDivisor(*a, *b);
+    return LargeInteger(a->isZero() ? *b : *a);
 }
 
-/// What repeated subtraction of b leaves: the remainder, in the same buffer and under the same
-/// bound. A b of zero or of another sign is subtracted once: that never comes to an end.
-void internal::Representation::subtractWhileLarger(LargeInteger& a,
-                                                   LargeInteger const& b) noexcept {
-    if (b.isZero() || b.isNegative() != a.isNegative()) {
+/// Neither is zero, and the signs are equal: other operands would be subtracted for ever.
+///
+/// A subtraction of magnitudes keeps the buffer, its capacity and its bound, and leaves a flag on
+/// what is not zero only. So nothing but the values tells which steps were taken, and
+/// `limbs::gcd` knows the last ones: the divisor in one operand, and zero in the other.
+void internal::Representation::reduceToDivisor(LargeInteger& a, LargeInteger& b) noexcept {
+    while (b.isZero() || a.isNegative() != b.isNegative())
         a -= b;
-        return;
-    }
-    a %= b;
-    a.negative = a.isNegative();
+    Magnitude const first = magnitude(a);
+    Magnitude const second = magnitude(b);
+    CommonDivisor const divisor(first, second, false);
+    LargeInteger& last = divisor.isInSecond ? b : a;
+    LargeInteger& zero = divisor.isInSecond ? a : b;
+    // In this order: one object may be both.
+    replaceMagnitude(last, divisor.isInSecond ? second.top : first.top, divisor.value,
+                     divisor.count);
+    replaceMagnitude(zero, divisor.isInSecond ? first.top : second.top, nullptr, 0);
+    zero.negative = false;
 }
 
 // Euclid's algorithm while the sizes differ, then repeated subtraction.
@@ -82,61 +115,61 @@ LargeInteger LargeInteger::findGreatestCommonDivisor(LargeInteger other) const n
     constexpr int closeEnough = 16;
     LargeInteger const* a = this;
     std::optional<LargeInteger> divisor;
-    while (!other.isZero()) {
-        if (std::abs(a->getHighestBit() - other.getHighestBit()) > closeEnough) {
+    for (;;) {
+        Magnitude const first = Representation::magnitude(*a);
+        Magnitude const second = Representation::magnitude(other);
+        if (second.top < 0)
+            return Representation::copied(first.value, first.count(), first.top, a->negative);
+        if (std::abs(first.top - second.top) > closeEnough) {
             LargeInteger const remainder = *a % other;
             divisor = other;
             a = &*divisor;
             other = remainder;
-        } else if (a->isNegative() || other.isNegative()) {
+        } else if ((a->negative && first.top >= 0) || other.negative) {
             // Which signs come to an end, and with which sign, rests on the documented steps.
-            LargeInteger first(*a);
-            return simpleGCD(&first, &other);
+            LargeInteger dividend(*a);
+            return simpleGCD(&dividend, &other);
         } else {
-            return Representation::gcdOfMagnitudes(*a, other);
+            return Representation::gcdOfMagnitudes(first, second);
         }
     }
-    Magnitude const last = Representation::magnitude(*a);
-    return Representation::copied(last.value, last.count(), last.top, a->negative);
 }
 
 /// What simpleGCD returns for two values that are not negative: a copy of the one that is not zero
-/// in the end, under the bound that it had from the beginning.
-LargeInteger internal::Representation::gcdOfMagnitudes(LargeInteger const& a,
-                                                       LargeInteger const& b) noexcept {
-    Magnitude const first = magnitude(a);
-    Magnitude const second = magnitude(b);
-    std::size_t const count = std::max(first.count(), second.count());
-    if (count == 1) {
-        Limb const divisor = std::gcd(first.top < 0 ? 0 : first.value[0], second.value[0]);
-        return copied(&divisor, 1, 0, false);
+/// in the end, under the bound that it had from the beginning. That bound tells no more than the
+/// capacity.
+LargeInteger internal::Representation::gcdOfMagnitudes(Magnitude first, Magnitude second) noexcept {
+    int const size = std::max(first.top, second.top);
+    if (size < 2 * limbs::bitsPerLimb) {
+        limbs::DoubleLimb const divisor = limbs::gcdOfPairs(pairOf(first), pairOf(second));
+        Limb const value[2] = {static_cast<Limb>(divisor), limbs::upperLimb(divisor)};
+        return copied(value, 2, size, false);
     }
-    Workspace workspace(3 * count + limbs::gcdScratch(count));
-    Limb* const x = workspace.take(count);
-    Limb* const y = workspace.take(count);
-    Limb* const out = workspace.take(count);
-    loadLimbs(x, count, first);
-    loadLimbs(y, count, second);
-    bool const isInSecond = limbs::gcd(out, x, y, count, workspace.rest());
-    return copied(out, count, isInSecond ? second.top : first.top, false);
+    bool const isAlone = tightSize(first.top) == tightSize(second.top);
+    CommonDivisor const divisor(first, second, isAlone);
+    return copied(divisor.value, divisor.count, divisor.isInSecond ? second.top : first.top, false);
 }
 
 // Extended Euclid on (m, this): the coefficients c and d follow the remainders a and b, with m
 // standing for the first coefficient 0. Rounds end when the remainder is exactly +1.
 void LargeInteger::inverseModulo(LargeInteger const& m) noexcept {
-    if (m.isOne() || m.isNegative()) {
+    Magnitude const modulus = Representation::magnitude(m);
+    if (m.negative ? modulus.top >= 0 : modulus.top == 0) {
         clear();
         return;
     }
-    if (isNegative() || compareAbsolute(m) >= 0)
+    Magnitude value = Representation::magnitude(*this);
+    if ((negative && value.top >= 0) || compareMagnitudes(value, modulus) >= 0) {
         *this %= m;
-    if (isOne())
+        value = Representation::magnitude(*this);
+    }
+    if (!negative && value.top == 0)
         return;
-    if ((*this)[0] == 0) {
+    if (value.top < 0 || value.value[0] % 2 == 0) {
         clear();
         return;
     }
-    if (!isNegative() && Representation::invert(*this, m))
+    if (!negative && Representation::invert(*this, value, modulus))
         return;
     // A negative value ends where the remainders, signs and all, come to +1; one that shares a
     // factor with m never does.
@@ -160,16 +193,15 @@ void LargeInteger::inverseModulo(LargeInteger const& m) noexcept {
     swapWith(d);
 }
 
-/// Becomes its inverse, for 1 < this < m; false, and unchanged, when there is none.
+/// Becomes the inverse of its value, for 1 < value < m; false, and unchanged, when there is none.
 ///
 /// The books are those of the extended Euclid's last coefficient d before its reduction. With
 /// s m + t v = 1 for this value v, d is t + s m = 1 - t (v - 1), since the coefficients start from
 /// m and 1 instead of 0 and 1; and |t| <= m / 2, as Euclid's are. So t is the inverse i or i - m,
 /// whichever is smaller in size. A negative t makes d positive, which then keeps its own bound; a
 /// positive t makes d negative, and adding m leaves the bound of m.
-bool internal::Representation::invert(LargeInteger& a, LargeInteger const& m) noexcept {
-    Magnitude const value = magnitude(a);
-    Magnitude const divisor = magnitude(m);
+bool internal::Representation::invert(LargeInteger& a, Magnitude value,
+                                      Magnitude divisor) noexcept {
     std::size_t const count = limbCount(divisor.top);
     Workspace workspace(3 * count + limbs::inverseScratch(count));
     Limb* const v = workspace.take(count);
@@ -189,9 +221,7 @@ bool internal::Representation::invert(LargeInteger& a, LargeInteger const& m) no
         v[0] -= 1;
         bound = checkedPosition(topOfProduct(modulus, v, count));
     }
-    LargeInteger inverse = copied(out, count, bound, false);
-    inverse.highestBit = bound;
-    a.swapWith(inverse);
+    become(a, out, std::min(count, limbCount(bound)), bound, tightSize(bound));
     return true;
 }
 

@@ -18,10 +18,6 @@ long long nextSetBit(Magnitude a, long long from) noexcept {
     return static_cast<long long>(i) * limbs::bitsPerLimb + std::countr_zero(limb);
 }
 
-std::size_t quotientWorkspace(Magnitude dividend, Magnitude divisor) noexcept {
-    return 2 * dividend.count() + divisor.count() + 2 + limbs::divideScratch(divisor.count());
-}
-
 }  // namespace
 
 std::size_t productLimbs(Magnitude a, Magnitude b) noexcept {
@@ -59,44 +55,6 @@ int productCapacity(Magnitude a, int bTop) noexcept {
             return size;
         size = grownSize(size, (bTop + i + 1) / bitsPerWord + 1);
     }
-}
-
-Quotient::Quotient(Magnitude dividend, Magnitude divisor) noexcept
-    : remainderCount(dividend.count()), workspace(quotientWorkspace(dividend, divisor)) {
-    std::size_t const aCount = dividend.count();
-    std::size_t const count = divisor.count();
-    if (dividend.top < divisor.top) {
-        Limb* const a = workspace.take(aCount);
-        loadLimbs(a, aCount, dividend);
-        remainder = a;
-        return;
-    }
-    Limb* const a = workspace.take(aCount + 1);
-    Limb* const q = workspace.take(aCount + 1);
-    remainder = a;
-    quotient = q;
-    remainderCount = count;
-    if (count == 1) {
-        a[0] = limbs::divideLimb(q, dividend.value, aCount, divisor.value[0]);
-        quotientCount = aCount;
-        return;
-    }
-    // D1: both shifted left until the divisor's highest bit is set.
-    int const shift = std::countl_zero(divisor.value[count - 1]);
-    Limb const* d = divisor.value;
-    a[aCount] = 0;
-    if (shift == 0) {
-        std::copy_n(dividend.value, aCount, a);
-    } else {
-        Limb* const shifted = workspace.take(count);
-        limbs::shiftLeft(shifted, divisor.value, count, shift);
-        d = shifted;
-        a[aCount] = limbs::shiftLeft(a, dividend.value, aCount, shift);
-    }
-    limbs::divide(q, a, aCount + 1, d, count, workspace.rest());
-    if (shift != 0)
-        limbs::shiftRight(a, a, count, shift);
-    quotientCount = aCount + 1 - count;
 }
 
 }  // namespace qel::internal

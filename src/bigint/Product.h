@@ -1,4 +1,4 @@
-// The product and the quotient of two magnitudes as limbs.
+// The product of two magnitudes as limbs.
 #pragma once
 
 #include "Storage.h"
@@ -15,21 +15,5 @@ void multiply(Limb* out, Magnitude a, Magnitude b) noexcept;
 /// While bit i of a is added, the sum so far is below b * 2^i. So the addition's bound is
 /// top(b) + i + 1, and the capacity follows from the positions of a's set bits alone.
 [[nodiscard]] int productCapacity(Magnitude a, int bTop) noexcept;
-
-/// A quotient and its remainder, computed before any of the operands' objects changes: so an
-/// operand may be the result's own object.
-class Quotient {
-  public:
-    /// Divides; neither operand is zero.
-    Quotient(Magnitude dividend, Magnitude divisor) noexcept;
-
-    Limb const* quotient = nullptr;
-    std::size_t quotientCount = 0;
-    Limb const* remainder = nullptr;
-    std::size_t remainderCount;
-
-  private:
-    Workspace workspace;
-};
 
 }  // namespace qel::internal

@@ -40,9 +40,10 @@ struct Representation {
     }
     /// Takes a value over, under the capacity of a tight copy of one with the top `sizeTop`.
     static void take(LargeInteger& a, LargeInteger& source, int sizeTop) noexcept;
-    /// Takes limbs from elsewhere, the index of their highest set bit and a capacity; the flag
-    /// stays.
-    static void assign(LargeInteger& a, Limb const* value, int top, int capacity) noexcept;
+    /// Becomes the number of `count` limbs from elsewhere, not negative, with the given bound and
+    /// capacity.
+    static void become(LargeInteger& a, Limb const* value, std::size_t count, int bound,
+                       int capacity) noexcept;
 
     /// The value in the first `used` limbs of a result, as a copy has it: with an exact bound and a
     /// tight capacity.
@@ -90,13 +91,14 @@ struct Representation {
     static void shiftRightFrom(LargeInteger& a, int from, long long count) noexcept;
     [[nodiscard]] static LargeInteger shifted(LargeInteger const& a, long long distance) noexcept;
 
-    static void subtractWhileLarger(LargeInteger& a, LargeInteger const& b) noexcept;
-    [[nodiscard]] static LargeInteger gcdOfMagnitudes(LargeInteger const& a,
-                                                      LargeInteger const& b) noexcept;
-    [[nodiscard]] static bool invert(LargeInteger& a, LargeInteger const& m) noexcept;
+    static void reduceToDivisor(LargeInteger& a, LargeInteger& b) noexcept;
+    [[nodiscard]] static LargeInteger gcdOfMagnitudes(Magnitude first, Magnitude second) noexcept;
+    [[nodiscard]] static bool invert(LargeInteger& a, Magnitude value, Magnitude divisor) noexcept;
     static void raise(LargeInteger& a, Magnitude base, Magnitude exponent,
                       Magnitude modulus) noexcept;
 
+    static void becomeQuotient(LargeInteger& a, int emptySize, Limb const* quotient,
+                               int top) noexcept;
     template <int bits>
     static void parseBits(LargeInteger& a, char const* text) noexcept;
     static void parseDecimal(LargeInteger& a, char const* text) noexcept;

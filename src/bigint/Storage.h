@@ -21,6 +21,14 @@ using limbs::Limb;
 /// The capacity of a new value, and the least there is.
 inline constexpr int initialSize = 4;
 
+/// From this capacity on, a reset to zero releases the buffer.
+inline constexpr int releaseSize = 17;
+
+/// The capacity after a reset to zero.
+constexpr int clearedSize(int size) noexcept {
+    return size < releaseSize ? size : initialSize;
+}
+
 inline Limb* checkedBuffer(void* buffer) noexcept {
     if (buffer == nullptr)
         endProcess("out of memory");

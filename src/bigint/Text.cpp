@@ -228,7 +228,7 @@ void internal::Representation::parseBits(LargeInteger& a, char const* text) noex
     readBits<bits>(filler, characters);
     auto const count = static_cast<std::size_t>(filler.finish() - value);
     int const top = checkedPosition(topBit(value, count));
-    assign(a, value, top, capacityAfterDigits(a.size, top, bits));
+    become(a, value, limbCount(top), top, capacityAfterDigits(a.size, top, bits));
 }
 
 /// Reads into a plain zero. A product has a fresh buffer, so bound and capacity are those of the
@@ -252,7 +252,8 @@ void internal::Representation::parseDecimal(LargeInteger& a, char const* text) n
     limbs::multiplyLimb(value, value, count, 10);
     int const capacity = grownSize(productSize, wordIndex(topBit(value, count) + 1) + 1);
     limbs::addLimb(value, value, count, last);
-    assign(a, value, checkedPosition(topBit(value, count)), capacity);
+    int const top = checkedPosition(topBit(value, count));
+    become(a, value, limbCount(top), top, capacity);
 }
 
 }  // namespace qel

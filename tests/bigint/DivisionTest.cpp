@@ -95,6 +95,38 @@ TEST(Division, OperatorsReturnTightCopiesWithExactBounds) {
     EXPECT_EQ(books(work), (Books{7, 200, false}));
 }
 
+// The divisor's highest limb is full, so that neither operand is shifted and the first digit is
+// found by comparison; with a dividend of one bit more it is not.
+TEST(Division, BeginsWithADigitOfZeroOrOneOrALargerOne) {
+    for (int limbs : {2, 3, 4, 9, 25}) {
+        LargeInteger const divisor = powerOfTwo(64 * limbs - 1) + powerOfTwo(70) + LargeInteger(5);
+        for (int digits : {1, 2, 5, 30}) {
+            for (int above : {-1, 0, 1, 3}) {
+                LargeInteger const quotient = powerOfTwo(64 * digits + above) - LargeInteger(3);
+                for (LargeInteger const& rest : {LargeInteger(0), divisor - LargeInteger(1)}) {
+                    LargeInteger const dividend = quotient * divisor + rest;
+                    EXPECT_EQ(dividend / divisor, quotient)
+                        << limbs << ' ' << digits << ' ' << above;
+                    EXPECT_EQ(dividend % divisor, rest) << limbs << ' ' << digits << ' ' << above;
+                }
+            }
+        }
+    }
+}
+
+TEST(Division, InPlaceLeavesNothingOfTheDividendWhereTheQuotientGrowsAgain) {
+    for (int bits : {100, 500, 900, 2000}) {
+        for (int left : {0, 20, 60, 90}) {
+            LargeInteger v = powerOfTwo(bits) - LargeInteger(1);
+            v /= powerOfTwo(bits - left);
+            EXPECT_EQ(v, powerOfTwo(left) - LargeInteger(1));
+            v.setBit(bits);
+            EXPECT_EQ(v, powerOfTwo(bits) + powerOfTwo(left) - LargeInteger(1))
+                << bits << ' ' << left;
+        }
+    }
+}
+
 TEST(Division, StaleBoundsDoNotMatter) {
     LargeInteger dividend(100);
     LargeInteger divisor(-7);

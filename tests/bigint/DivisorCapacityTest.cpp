@@ -90,4 +90,48 @@ TEST(DivisorCapacity, IsThatOfTheOperandThatSubtractionLeaves) {
     EXPECT_GT(differing, 1000);
 }
 
+/// Empty when the subtractive form leaves both operands, and its result, as the model does.
+std::string usedUpDifference(Twin a, Twin b) {
+    return difference(LargeInteger::simpleGCD(&a.fast, &b.fast),
+                      plain::LargeInteger::simpleGCD(&a.plain, &b.plain))
+           + difference(a.fast, a.plain) + difference(b.fast, b.plain);
+}
+
+TEST(DivisorCapacity, TheSubtractiveFormLeavesOneOperandZeroBothUnderTheirOwnBoundsAndCapacities) {
+    for (unsigned int seed = 0; seed < 200; ++seed) {
+        Pairs pairs(seed);
+        SeededChoices choices(seed);
+        for (int step = 0; step < 60; ++step) {
+            pairs.grow();
+            Twin a = pairs.larger();
+            Twin b = pairs.smaller();
+            bool const negative = choices.oneIn(2);
+            for (Twin* const twin : {&a, &b}) {
+                int const reserved = choices.below(30);
+                int const bound = twin->fast.getHighestBit() + 1 + choices.below(80);
+                both(*twin, [&](auto& v) {
+                    v.setNegative(negative);
+                    v.ensureSize(reserved);
+                    v.setBit(bound);
+                    v.clearBit(bound);
+                });
+            }
+            if (b.fast.isZero())
+                continue;
+            ASSERT_EQ(usedUpDifference(a, b), "") << seed << ' ' << describe(a) << describe(b);
+            ASSERT_EQ(usedUpDifference(b, a), "") << seed << ' ' << describe(b) << describe(a);
+        }
+    }
+}
+
+TEST(DivisorCapacity, TheSubtractiveFormOfOneObjectTwiceLeavesItZero) {
+    for (bool const negative : {false, true}) {
+        Twin twin = staleTwin(3, 200, negative);
+        ASSERT_EQ(difference(LargeInteger::simpleGCD(&twin.fast, &twin.fast),
+                             plain::LargeInteger::simpleGCD(&twin.plain, &twin.plain)),
+                  "");
+        ASSERT_EQ(difference(twin.fast, twin.plain), "");
+    }
+}
+
 }  // namespace

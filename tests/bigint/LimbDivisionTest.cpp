@@ -16,6 +16,8 @@ void expectQuotientByLimb(Limbs const& a, Limb divisor) {
     Limb const restInA = limbs::divideLimb(inA.data(), inA.data(), a.size(), divisor);
     ASSERT_LT(rest, divisor) << input("a", a, "divisor", divisor);
     ASSERT_EQ(restInA, rest) << input("a", a, "divisor", divisor);
+    ASSERT_EQ(limbs::remainderLimb(a.data(), a.size(), divisor), rest)
+        << input("a", a, "divisor", divisor);
     Limbs const back = sum(product(out.values(), {divisor}), {rest});
     ASSERT_EQ(back, with(with(a, 0), 0)) << input("a", a, "divisor", divisor);
     ASSERT_TRUE(out.intact());
@@ -37,10 +39,31 @@ TEST(LimbDivideLimb, TakesDivisorsOfEachLength) {
     Operands operands(52);
     for (int bits = 0; bits < 64; ++bits) {
         for (Pattern const pattern : patterns) {
-            expectQuotientByLimb(operands.make(pattern, 5), Limb{1} << bits);
-            expectQuotientByLimb(operands.make(pattern, 5), (topBit | operands.limb()) >> bits);
-            expectQuotientByLimb(operands.make(pattern, 5), allOnes >> bits);
+            for (std::size_t const count : {2U, 9U, 19U}) {
+                Limbs const a = operands.make(pattern, count);
+                expectQuotientByLimb(a, Limb{1} << bits);
+                expectQuotientByLimb(a, (topBit | operands.limb()) >> bits);
+                expectQuotientByLimb(a, allOnes >> bits);
+            }
         }
+    }
+}
+
+// On both sides of where a reciprocal, halves side by side and folded remainders take over, of
+// blocks of eight limbs, and of the powers that are reduced: 2^60.
+TEST(LimbDivideLimb, TakesAllLengthsByDivisorsThatAreFoldedAndLargerOnes) {
+    Operands operands(54);
+    constexpr Limb folded = Limb{1} << 60;
+    for (std::size_t count = 1; count <= 50; ++count) {
+        for (Pattern const pattern : patterns) {
+            Limbs const a = operands.make(pattern, count);
+            for (Limb const divisor :
+                 {Limb{3}, Limb{10}, Limb{127}, (Limb{1} << 30) - 1, folded - 1, folded + 1,
+                  (operands.limb() >> 4) | 1, operands.limb() | topBit})
+                expectQuotientByLimb(a, divisor);
+        }
+        if (HasFailure())
+            return;
     }
 }
 
@@ -54,6 +77,58 @@ TEST(LimbDivideLimb, FindsDigitsWithTheSmallestAndLargestRemainders) {
             Limbs a = sum(product(quotient, {divisor}), {rest});
             a.pop_back();
             expectQuotientByLimb(a, divisor);
+        }
+        if (HasFailure())
+            return;
+    }
+}
+
+// --- by two limbs -------------------------------------------------------------------------------
+
+void expectQuotientByTwo(Limbs const& a, Limbs const& divisor) {
+    Fenced out(a.size() - 1);
+    Fenced rest(2);
+    Fenced inA(a);
+    limbs::divideTwoLimbs(out.data(), rest.data(), a.data(), a.size(), divisor.data());
+    ASSERT_TRUE(out.intact() && rest.intact()) << input("a", a, "divisor", divisor);
+    ASSERT_TRUE(less(rest.values(), divisor)) << input("a", a, "divisor", divisor);
+    Limbs const back = sum(product(out.values(), divisor), rest.values());
+    ASSERT_EQ(back, with(with(a, 0), 0)) << input("a", a, "divisor", divisor);
+    limbs::divideTwoLimbs(inA.data(), rest.data(), inA.data(), a.size(), divisor.data());
+    ASSERT_TRUE(inA.holds(with(out.values(), a.back()))) << input("a", a, "divisor", divisor);
+}
+
+TEST(LimbDivideTwoLimbs, IsTheQuotientAndTheRemainderForDivisorsOfEachLength) {
+    Operands operands(55);
+    for (int bits = 0; bits < 64; ++bits) {
+        Limb const upper = (topBit | operands.limb()) >> bits;
+        for (std::size_t const count : {2U, 3U, 4U, 9U}) {
+            for (Pattern const pattern : patterns) {
+                Limbs const a = operands.make(pattern, count);
+                expectQuotientByTwo(a, {operands.limb(), upper});
+                expectQuotientByTwo(a, {0, Limb{1} << bits});
+                expectQuotientByTwo(a, {allOnes, allOnes >> bits});
+            }
+        }
+        if (HasFailure())
+            return;
+    }
+}
+
+// Backwards: remainders at either end, with a first digit of 0 or 1 and with larger ones.
+TEST(LimbDivideTwoLimbs, FindsDigitsWithTheSmallestAndLargestRemainders) {
+    Operands operands(56);
+    for (int i = 0; i < 3000; ++i) {
+        Limbs divisor = operands.any(2);
+        divisor[1] = i % 2 == 0 ? divisor[1] | topBit : (divisor[1] >> operands.below(64)) | 1;
+        Limbs quotient = operands.any(3);
+        quotient[2] = i % 3 == 0 ? operands.below(2) : quotient[2];
+        Limbs largest = divisor;
+        limbs::subtractLimb(largest.data(), largest.data(), 2, 1);
+        for (Limbs const& rest : {Limbs{0, 0}, Limbs{1, 0}, largest}) {
+            Limbs a = sum(product(quotient, divisor), rest);
+            a.pop_back();
+            expectQuotientByTwo(a, divisor);
         }
         if (HasFailure())
             return;

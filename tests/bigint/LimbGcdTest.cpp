@@ -4,6 +4,7 @@
 
 #include "bigint/limbs/Gcd.h"
 
+#include <numeric>
 #include <utility>
 
 namespace {
@@ -48,6 +49,11 @@ std::vector<Limbs (*)(Operands&)> const& draws() {
     return all;
 }
 
+limbs::DoubleLimb pairOf(Limbs const& a) {
+    return limbs::DoubleLimb{a.size() > 1 ? a[1] : 0} << 64 | a[0];
+}
+
+/// In all ways that there are for this length.
 void expectGcd(Limbs const& a, Limbs const& b, Limbs expected) {
     std::size_t const count = std::max(a.size(), b.size());
     Limbs x = a;
@@ -62,6 +68,18 @@ void expectGcd(Limbs const& a, Limbs const& b, Limbs expected) {
     limbs::gcd(out.data(), inX.data(), inY.data(), count, scratch.data());
     ASSERT_TRUE(out.holds(expected)) << input("a", a, "b", b);
     ASSERT_TRUE(inX.intact() && inY.intact() && scratch.intact()) << input("a", a, "b", b);
+    if (count <= 2) {
+        ASSERT_EQ(limbs::gcdOfPairs(pairOf(a), pairOf(b)), pairOf(expected))
+            << input("a", a, "b", b);
+    }
+    if (count < 2)
+        return;
+    Fenced aloneX(x);
+    Fenced aloneY(y);
+    Fenced alone(count);
+    limbs::gcdAlone(alone.data(), aloneX.data(), aloneY.data(), count, scratch.data());
+    ASSERT_TRUE(alone.holds(expected)) << input("a", a, "b", b);
+    ASSERT_TRUE(aloneX.intact() && aloneY.intact() && scratch.intact()) << input("a", a, "b", b);
 }
 
 TEST(LimbGcd, IsWhatTheOperandsWereBuiltFrom) {
@@ -88,6 +106,32 @@ TEST(LimbGcd, OfANumberAndZeroOneOrItselfIsTheNumberOrOne) {
         expectGcd(a, a, a);
         expectGcd(a, {1}, {1});
     });
+}
+
+// Where the lower limbs are equal the difference has none, and its negation carries into the upper
+// one; a - b is then 2^64 times what is left.
+TEST(LimbGcd, OfTwoLimbsWhoseLowerOnesAreEqual) {
+    for (Limb const lower : {Limb{1}, Limb{15}, allOnes}) {
+        for (Limb const upper : {Limb{1}, Limb{2}, Limb{6}, topBit}) {
+            expectGcd({lower, 0}, {lower, upper}, {std::gcd(lower, upper)});
+            expectGcd({lower, upper}, {lower, 0}, {std::gcd(lower, upper)});
+        }
+    }
+    // Their difference is 3 * 2^64, and 2^64 is 1 modulo 3.
+    expectGcd({5, 7}, {5, 10}, {3});
+    expectGcd({5, 11}, {5, 8}, {1});
+    expectGcd({0, 12}, {0, 18}, {0, 6});
+}
+
+TEST(LimbGcd, OfTwoLimbsTakesOutTheZerosAtTheEnd) {
+    for (int i = 0; i < 128; ++i) {
+        for (int j = 0; j < 128; ++j) {
+            limbs::DoubleLimb const one = 1;
+            ASSERT_EQ(limbs::gcdOfPairs(one << i, one << j), one << std::min(i, j));
+            ASSERT_EQ(limbs::gcdOfPairs((one << 127) | (one << i), one << j),
+                      one << std::min(i, j));
+        }
+    }
 }
 
 /// v * inverse - 1 is a multiple of m.

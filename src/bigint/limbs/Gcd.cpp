@@ -9,8 +9,12 @@
 // A matrix of determinant 1 keeps the gcd. It is a product of subtractions, each of which leaves
 // both numbers positive, by the same bound: so they are those that repeated subtraction takes.
 //
-// The 128 bits are taken in two halves in the same way, each by Euclid on single limbs.
+// The 128 bits are taken in two halves in the same way, each by Euclid on single limbs. What is
+// left at the end of a gcd is two limbs each, which the binary algorithm takes, unless it must be
+// told where subtraction leaves the gcd.
 #include "Gcd.h"
+
+#include "Reciprocal.h"
 
 #include <algorithm>
 #include <bit>
@@ -41,15 +45,9 @@ Matrix operator*(Matrix const& x, Matrix const& y) noexcept {
 /// False elsewhere.
 bool reduceOnce(Limb& larger, Limb smaller, Limb least, Limb& top, Limb& bottom, Limb otherTop,
                 Limb otherBottom) noexcept {
-    // Quotients are 1, 2 or 3 two times in three, and divisions slow on older processors.
-    Limb q = 1;
-    Limb rest = larger - smaller;
-    for (; q < 4 && rest >= smaller; ++q)
-        rest -= smaller;
-    if (rest >= smaller) {
-        q = larger / smaller;
-        rest = larger - q * smaller;
-    }
+    // Always a division: which quotients are small is what no branch can be trained for.
+    Limb const q = larger / smaller;
+    Limb const rest = larger - q * smaller;
     if (rest < least)
         return false;
     larger = rest;
@@ -101,50 +99,14 @@ DoubleLimb leading(Limb const* a, std::size_t count, int shift) noexcept {
     return (top << shift) | (below >> (bitsPerLimb - shift));
 }
 
-/// (a, b) = (m11 a - m01 b, m00 b - m10 a), both known to be non-negative and below 2^(64 count).
-void applyInverse(Limb* a, Limb* b, std::size_t count, Matrix const& m) noexcept {
-    Limb aCarry = 0;
-    Limb aBorrow = 0;
-    Limb bCarry = 0;
-    Limb bBorrow = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        DoubleLimb const plusA = DoubleLimb{m.m11} * a[i] + aCarry;
-        DoubleLimb const minusA = DoubleLimb{m.m01} * b[i] + aBorrow;
-        DoubleLimb const plusB = DoubleLimb{m.m00} * b[i] + bCarry;
-        DoubleLimb const minusB = DoubleLimb{m.m10} * a[i] + bBorrow;
-        Limb const aLow = static_cast<Limb>(plusA);
-        Limb const aMinus = static_cast<Limb>(minusA);
-        Limb const bLow = static_cast<Limb>(plusB);
-        Limb const bMinus = static_cast<Limb>(minusB);
-        a[i] = aLow - aMinus;
-        b[i] = bLow - bMinus;
-        aCarry = static_cast<Limb>(plusA >> bitsPerLimb);
-        aBorrow = static_cast<Limb>(minusA >> bitsPerLimb) + (aLow < aMinus ? 1 : 0);
-        bCarry = static_cast<Limb>(plusB >> bitsPerLimb);
-        bBorrow = static_cast<Limb>(minusB >> bitsPerLimb) + (bLow < bMinus ? 1 : 0);
-    }
+void storePair(Limb* out, DoubleLimb pair) noexcept {
+    out[0] = low(pair);
+    out[1] = high(pair);
 }
 
-/// (s, t) = (m11 s + m01 t, m10 s + m00 t).
-void applySums(Limb* s, Limb* t, std::size_t count, Matrix const& m) noexcept {
-    Limb sCarry = 0;
-    Limb sHigh = 0;
-    Limb tCarry = 0;
-    Limb tHigh = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        Limb const sLimb = s[i];
-        Limb const tLimb = t[i];
-        DoubleLimb const s1 = DoubleLimb{m.m11} * sLimb + sCarry;
-        DoubleLimb const s2 = DoubleLimb{m.m01} * tLimb + sHigh + static_cast<Limb>(s1);
-        DoubleLimb const t1 = DoubleLimb{m.m10} * sLimb + tCarry;
-        DoubleLimb const t2 = DoubleLimb{m.m00} * tLimb + tHigh + static_cast<Limb>(t1);
-        s[i] = static_cast<Limb>(s2);
-        t[i] = static_cast<Limb>(t2);
-        sCarry = static_cast<Limb>(s1 >> bitsPerLimb);
-        sHigh = static_cast<Limb>(s2 >> bitsPerLimb);
-        tCarry = static_cast<Limb>(t1 >> bitsPerLimb);
-        tHigh = static_cast<Limb>(t2 >> bitsPerLimb);
-    }
+void complement(Limb* out, Limb const* a, std::size_t count) noexcept {
+    for (std::size_t i = 0; i < count; ++i)
+        out[i] = ~a[i];
 }
 
 /// A number that shrinks, and the size of its cofactor: with m and v the numbers at the start, one
@@ -162,12 +124,12 @@ class Reduction {
               Limb* limbs) noexcept
         : a(first), b(second), cofactorCount(cofactorLimbs), scratch(limbs) {}
 
-    /// Until one side is zero or both are single limbs.
-    void run() noexcept {
+    /// Until one side is zero or neither has more than `most` limbs.
+    void run(std::size_t most) noexcept {
         for (;;) {
             a.count = significant(a.number, a.count);
             b.count = significant(b.number, b.count);
-            if (std::min(a.count, b.count) == 0 || std::max(a.count, b.count) == 1)
+            if (std::min(a.count, b.count) == 0 || std::max(a.count, b.count) <= most)
                 return;
             step();
         }
@@ -187,7 +149,7 @@ class Reduction {
             Matrix const m =
                 leadingSteps(leading(a.number, count, shift), leading(b.number, count, shift));
             if (!m.isIdentity()) {
-                applyInverse(a.number, b.number, count, m);
+                applyInverse(count, m);
                 decreasedSecondLast = m.decreasedSecondLast();
                 if (a.cofactor != nullptr)
                     growCofactors(m);
@@ -201,10 +163,36 @@ class Reduction {
         divide(larger, smaller);
     }
 
-    /// Sums of two products by limbs, which have two limbs more at most.
+    /// (a, b) = (m11 a - m01 b, m00 b - m10 a), both known to be non-negative and below 2^(64
+    /// count) = B, modulo which -y b is y (B - 1 - b) + y.
+    void applyInverse(std::size_t count, Matrix const& m) noexcept {
+        if (count == 2) {
+            DoubleLimb const first = join(a.number[1], a.number[0]);
+            DoubleLimb const second = join(b.number[1], b.number[0]);
+            storePair(a.number, m.m11 * first - m.m01 * second);
+            storePair(b.number, m.m00 * second - m.m10 * first);
+            return;
+        }
+        Limb* const minusA = scratch;
+        Limb* const minusB = scratch + count;
+        complement(minusA, a.number, count);
+        complement(minusB, b.number, count);
+        multiplyLimb(a.number, a.number, count, m.m11);
+        addMultiply(a.number, minusB, count, m.m01);
+        addLimb(a.number, a.number, count, m.m01);
+        multiplyLimb(b.number, b.number, count, m.m00);
+        addMultiply(b.number, minusA, count, m.m10);
+        addLimb(b.number, b.number, count, m.m10);
+    }
+
+    /// (s, t) = (m11 s + m01 t, m10 s + m00 t), which have two limbs more at most.
     void growCofactors(Matrix const& m) noexcept {
         std::size_t const count = std::min(cofactorUsed + 2, cofactorCount);
-        applySums(a.cofactor, b.cofactor, count, m);
+        Limb* const s = std::copy(a.cofactor, a.cofactor + count, scratch) - count;
+        multiplyLimb(a.cofactor, a.cofactor, count, m.m11);
+        addMultiply(a.cofactor, b.cofactor, count, m.m01);
+        multiplyLimb(b.cofactor, b.cofactor, count, m.m00);
+        addMultiply(b.cofactor, s, count, m.m10);
         cofactorUsed = std::max(significant(a.cofactor, count), significant(b.cofactor, count));
     }
 
@@ -231,10 +219,10 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
     // Two numbers of one length have a small quotient, which subtraction finds.
     if (aCount == count && larger.number[count - 1] / smaller.number[count - 1] < 4) {
         quotient[0] = 0;
-        while (compare(larger.number, smaller.number, count) >= 0) {
+        do {
             subtract(larger.number, larger.number, smaller.number, count);
             ++quotient[0];
-        }
+        } while (compare(larger.number, smaller.number, count) >= 0);
     } else if (count == 1) {
         larger.number[0] = divideLimb(quotient, larger.number, aCount, smaller.number[0]);
         std::fill(larger.number + 1, larger.number + aCount, Limb{0});
@@ -255,16 +243,66 @@ void Reduction::divide(Side& larger, Side const& smaller) noexcept {
     }
     if (larger.cofactor == nullptr)
         return;
-    // The sum is again the size of a cofactor, which is at most m: what stands above is zero. Long
-    // quotients are so rare that rows will do.
-    std::size_t const quotientCount = significant(quotient, aCount + 1 - count);
-    std::size_t const other = significant(smaller.cofactor, cofactorCount);
-    for (std::size_t i = 0; i < quotientCount; ++i) {
-        Limb* const above = larger.cofactor + i + other;
-        Limb const carry = addMultiply(larger.cofactor + i, smaller.cofactor, other, quotient[i]);
-        addLimb(above, above, cofactorCount - i - other, carry);
+    // The sum is again the size of a cofactor, which is at most m: what stands above is zero. Two
+    // long factors are so rare that rows will do.
+    Limb const* rows = quotient;
+    std::size_t rowCount = significant(quotient, aCount + 1 - count);
+    Limb const* row = smaller.cofactor;
+    std::size_t width = significant(row, cofactorUsed);
+    if (rowCount > width) {
+        std::swap(rows, row);
+        std::swap(rowCount, width);
     }
-    cofactorUsed = std::max(cofactorUsed, significant(larger.cofactor, cofactorCount));
+    for (std::size_t i = 0; i < rowCount; ++i) {
+        Limb* const above = larger.cofactor + i + width;
+        Limb const carry = addMultiply(larger.cofactor + i, row, width, rows[i]);
+        addLimb(above, above, cofactorCount - i - width, carry);
+    }
+    std::size_t const most = std::max(rowCount + width, cofactorUsed) + 1;
+    cofactorUsed =
+        std::max(cofactorUsed, significant(larger.cofactor, std::min(most, cofactorCount)));
+}
+
+/// The gcd of two odd limbs, by subtraction and shifts (Stein, "Computational problems associated
+/// with Racah algebra", 1967). Which is greater is a coin's toss each time: no branch.
+Limb gcdOfOddLimbs(Limb a, Limb b) noexcept {
+    while (a != b) {
+        DoubleLimb const signedDifference = DoubleLimb{a} - b;
+        Limb const difference = low(signedDifference);
+        Limb const mask = high(signedDifference);
+        b += difference & mask;
+        // The zeros of a - b are those of b - a.
+        a = ((difference ^ mask) - mask) >> std::countr_zero(difference);
+    }
+    return b;
+}
+
+/// The same for two limbs each.
+DoubleLimb gcdOfOddPairs(DoubleLimb a, DoubleLimb b) noexcept {
+    Limb b0 = low(b);
+    Limb b1 = high(b);
+    while ((high(a) | b1) != 0) {
+        DoubleLimb const difference = a - join(b1, b0);
+        Limb const mask = 0 - static_cast<Limb>(a < join(b1, b0));
+        Limb const lower = (low(difference) ^ mask) - mask;
+        Limb const upper = high(difference) ^ mask;
+        b0 ^= (low(a) ^ b0) & mask;
+        b1 ^= (high(a) ^ b1) & mask;
+        if (lower == 0) [[unlikely]] {
+            Limb const rest = upper - mask;  // with the carry of the negation
+            if (rest == 0)
+                return join(b1, b0);
+            a = rest >> std::countr_zero(rest);
+        } else {
+            int const zeros = std::countr_zero(low(difference));  // 1 to 63
+            a = join(upper >> zeros, (lower >> zeros) | (upper << (bitsPerLimb - zeros)));
+        }
+    }
+    return gcdOfOddLimbs(low(a), b0);
+}
+
+int trailingZeros(DoubleLimb a) noexcept {
+    return low(a) != 0 ? std::countr_zero(low(a)) : bitsPerLimb + std::countr_zero(high(a));
 }
 
 /// The gcd g of two limbs, at least one not zero, as g = s v - t r or, where `negative`,
@@ -276,16 +314,25 @@ struct LimbGcd {
     bool negative;
 };
 
+/// larger %= smaller; false where nothing is left of it.
+bool reduce(LimbGcd& larger, LimbGcd const& smaller) noexcept {
+    Limb const q = larger.gcd / smaller.gcd;
+    larger.gcd -= q * smaller.gcd;
+    larger.s += q * smaller.s;
+    larger.t += q * smaller.t;
+    return larger.gcd != 0;
+}
+
 LimbGcd gcdOfLimbs(Limb v, Limb r) noexcept {
-    LimbGcd result{v, 1, 0, false};
-    LimbGcd next{r, 0, 1, true};
-    while (next.gcd != 0) {
-        Limb const q = result.gcd / next.gcd;
-        LimbGcd const rest{result.gcd - q * next.gcd, result.s + q * next.s, result.t + q * next.t,
-                           result.negative};
-        result = std::exchange(next, rest);
+    LimbGcd first{v, 1, 0, false};
+    LimbGcd second{r, 0, 1, true};
+    if (r == 0)
+        return first;
+    while (reduce(first, second)) {
+        if (!reduce(second, first))
+            return first;
     }
-    return result;
+    return second;
 }
 
 /// With m = q v + r and k r + 1 = j v the inverse of v is (k m + 1) / v = k q + j, which is below m
@@ -304,14 +351,22 @@ bool inverseOfLimb(Limb* out, Limb v, Limb const* m, std::size_t count) noexcept
 
 }  // namespace
 
-// A division step's quotient, dividend and divisor.
+DoubleLimb gcdOfPairs(DoubleLimb a, DoubleLimb b) noexcept {
+    if (a == 0 || b == 0)
+        return a | b;
+    int const aZeros = trailingZeros(a);
+    int const bZeros = trailingZeros(b);
+    return gcdOfOddPairs(a >> aZeros, b >> bZeros) << std::min(aZeros, bZeros);
+}
+
+// A division step's quotient, dividend and divisor, or both sides of a matrix step.
 std::size_t gcdScratch(std::size_t count) noexcept {
     return 3 * count + 2;
 }
 
 bool gcd(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noexcept {
     Reduction reduction({a, count, nullptr}, {b, count, nullptr}, 0, scratch);
-    reduction.run();
+    reduction.run(1);
     bool inSecond = reduction.a.count == 0;
     Side const& longer = inSecond ? reduction.b : reduction.a;
     std::copy(longer.number, longer.number + longer.count, out);
@@ -322,6 +377,18 @@ bool gcd(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noexcept
         inSecond = a[0] == b[0] ? !reduction.decreasedSecondLast : last.negative;
     }
     return inSecond;
+}
+
+void gcdAlone(Limb* out, Limb* a, Limb* b, std::size_t count, Limb* scratch) noexcept {
+    Reduction reduction({a, count, nullptr}, {b, count, nullptr}, 0, scratch);
+    reduction.run(2);
+    if (std::max(reduction.a.count, reduction.b.count) > 2) {
+        std::copy_n(reduction.a.count == 0 ? b : a, count, out);
+        return;
+    }
+    DoubleLimb const divisor = gcdOfPairs(join(a[1], a[0]), join(b[1], b[0]));
+    std::fill(out, out + count, Limb{0});
+    storePair(out, divisor);
 }
 
 // Both cofactors with a limb to spare, the modulus, and a division step.
@@ -340,7 +407,7 @@ bool inverse(Limb* out, Limb* v, Limb* m, std::size_t count, Limb* scratch) noex
     Limb* const modulus = scratch + 2 * cofactorCount;
     std::copy(m, m + count, modulus);
     Reduction reduction({m, count, ofM}, {v, count, ofV}, cofactorCount, modulus + count);
-    reduction.run();
+    reduction.run(1);
     if (std::max(reduction.a.count, reduction.b.count) != 1)
         return false;
     LimbGcd const one = gcdOfLimbs(m[0], v[0]);

@@ -87,6 +87,12 @@ std::size_t squareScratch(std::size_t count) noexcept;
 
 /// quotient[0, count) = a / divisor; returns the remainder. `quotient` may be `a`.
 Limb divideLimb(Limb* quotient, Limb const* a, std::size_t count, Limb divisor) noexcept;
+/// a modulo the divisor.
+Limb remainderLimb(Limb const* a, std::size_t count, Limb divisor) noexcept;
+/// The same by two limbs, the upper one not zero, for count >= 2: quotient[0, count - 1), and
+/// remainder[0, 2). `quotient` may be `a`.
+void divideTwoLimbs(Limb* quotient, Limb* remainder, Limb const* a, std::size_t count,
+                    Limb const* divisor) noexcept;
 
 /// a / divisor: quotient[0, aCount - count), the remainder in a[0, count), whose limbs above
 /// are zero afterwards. `divisor` has `count` >= 2 limbs with the top bit of the highest set, and

@@ -1,8 +1,10 @@
-// Quotients by a limb from its reciprocal (Moeller and Granlund, "Improved division by invariant
-// integers", 2011).
+// Quotients by a limb or two from their reciprocal (Moeller and Granlund, "Improved division by
+// invariant integers", 2011).
 #pragma once
 
 #include "Limbs.h"
+
+#include <type_traits>
 
 namespace qel::limbs {
 
@@ -18,15 +20,32 @@ constexpr DoubleLimb join(Limb top, Limb bottom) noexcept {
     return (DoubleLimb{top} << bitsPerLimb) | bottom;
 }
 
-/// (2^128 - 1) / d - 2^64 for a d with its top bit set.
-constexpr Limb reciprocal(Limb d) noexcept {
-    return low(~DoubleLimb{0} / d);
-}
-
 struct ShortQuotient {
     Limb quotient;
     Limb remainder;
 };
+
+/// top:bottom / d for top < d, by the processor's own division where it has one so wide.
+inline ShortQuotient divideDirectly(Limb top, Limb bottom, Limb d) noexcept {
+#if defined(__x86_64__)
+    ShortQuotient result;
+    asm("divq %[d]"
+        : "=a"(result.quotient), "=d"(result.remainder)
+        : "a"(bottom), "d"(top), [d] "r"(d)
+        : "cc");
+    return result;
+#else
+    DoubleLimb const a = join(top, bottom);
+    return {low(a / d), low(a % d)};
+#endif
+}
+
+/// (2^128 - 1) / d - 2^64 for a d with its top bit set.
+constexpr Limb reciprocal(Limb d) noexcept {
+    if (std::is_constant_evaluated())
+        return low(~DoubleLimb{0} / d);
+    return divideDirectly(~d, ~Limb{0}, d).quotient;
+}
 
 /// top:bottom / d for top < d, with d's reciprocal (Algorithm 4).
 constexpr ShortQuotient divideTwoByOne(Limb top, Limb bottom, Limb d, Limb inverse) noexcept {
@@ -42,6 +61,47 @@ constexpr ShortQuotient divideTwoByOne(Limb top, Limb bottom, Limb d, Limb inver
         remainder -= d;
     }
     return {quotient, remainder};
+}
+
+/// The reciprocal of two limbs, (2^192 - 1) / d - 2^64, for a d1 with its top bit
+/// set (Algorithm 6).
+constexpr Limb reciprocalOfTwo(Limb d1, Limb d0) noexcept {
+    Limb inverse = reciprocal(d1);
+    Limb p = d1 * inverse + d0;
+    if (p < d0) {
+        --inverse;
+        if (p >= d1) {
+            --inverse;
+            p -= d1;
+        }
+        p -= d1;
+    }
+    DoubleLimb const t = DoubleLimb{inverse} * d0;
+    p += high(t);
+    if (p < high(t)) {
+        --inverse;
+        if (join(p, low(t)) >= join(d1, d0))
+            --inverse;
+    }
+    return inverse;
+}
+
+/// Three limbs by two, for u2:u1 < d; the remainder stays in `rest` (Algorithm 5).
+constexpr Limb divideThreeByTwo(Limb u2, Limb u1, Limb u0, DoubleLimb d, Limb inverse,
+                                DoubleLimb& rest) noexcept {
+    DoubleLimb const estimate = DoubleLimb{inverse} * u2 + join(u2, u1);
+    Limb quotient = high(estimate);
+    Limb const r1 = u1 - quotient * high(d);
+    rest = join(r1, u0) - DoubleLimb{low(d)} * quotient - d;
+    // One too large as often as not: no branch.
+    Limb const mask = high(rest) >= low(estimate) ? ~Limb{0} : 0;
+    quotient += mask + 1;
+    rest += join(high(d) & mask, low(d) & mask);
+    if (rest >= d) {
+        ++quotient;
+        rest -= d;
+    }
+    return quotient;
 }
 
 }  // namespace qel::limbs

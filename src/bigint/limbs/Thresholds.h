@@ -15,6 +15,14 @@ inline constexpr std::size_t thirdsSquare = 232;
 inline constexpr std::size_t transformMultiply = 3400;
 inline constexpr std::size_t transformSquare = 3400;
 
+/// Quotients by one limb of fewer limbs are taken without the divisor's reciprocal. Older
+/// processors would like it lower: 2.
+inline constexpr std::size_t divideLimbReciprocal = 9;
+/// Those of so many limbs are taken in two halves side by side. At least 2.
+inline constexpr std::size_t divideLimbSplit = 10;
+/// Remainders by one limb of so many limbs are folded. At least 2.
+inline constexpr std::size_t remainderFold = 4;
+
 /// Quotients of fewer limbs are taken digit by digit. At least 2.
 inline constexpr std::size_t divideSplit = 20;
 /// From so many digits and limbs of the divisor on, quotients are taken by a reciprocal.
