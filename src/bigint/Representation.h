@@ -11,6 +11,8 @@ struct Representation {
     [[nodiscard]] static Magnitude magnitude(LargeInteger const& a) noexcept {
         return {a.data, static_cast<int>(topBit(a.data, limbIndex(a.highestBit + 1LL) + 1))};
     }
+    /// The limbs of the buffer, to be written below the cached bound.
+    [[nodiscard]] static Limb* writableLimbs(LargeInteger& a) noexcept { return a.data; }
     /// A buffer for a result of at most `count` limbs.
     [[nodiscard]] static Limb* resultBuffer(std::size_t count) noexcept {
         return newBuffer(std::max(count + 1, bufferLimbs(initialSize)));
