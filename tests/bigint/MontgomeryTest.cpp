@@ -232,7 +232,8 @@ TEST(LimbPower, OfOneBitAndOfAllBitsAtEachWindowWidth) {
     Operands operands(100);
     for (long long const top : tops) {
         for (Limbs const& modulus :
-             {Limbs{3}, Limbs{topBit - 1}, Limbs{allOnes}, Limbs{1, topBit}, Limbs{allOnes, 1}}) {
+             {Limbs{3}, Limbs{topBit - 1}, Limbs{allOnes}, Limbs{1, topBit}, Limbs{allOnes, 1},
+              Limbs{allOnes, allOnes}, Limbs{1, 0, topBit}, Limbs{allOnes, 5, 1}}) {
             for (Limbs const& e : {oneBit(top), allBits(top)}) {
                 expectPower(anyBelow(operands, modulus), e, modulus);
                 expectPower(before(modulus), e, modulus);
@@ -252,12 +253,26 @@ TEST(LimbPower, OfAnyExponentAtEachWindowWidth) {
             Limbs const mask = allBits(top);
             for (std::size_t i = 0; i < e.size(); ++i)
                 e[i] |= lower[i] & mask[i];
-            Limbs const modulus{operands.limb() | 1, operands.limb() | topBit};
+            Limbs modulus{operands.limb() | 1, operands.limb() | topBit};
+            expectPower(anyBelow(operands, modulus), e, modulus);
+            modulus.push_back(1 + operands.below(100));
             expectPower(anyBelow(operands, modulus), e, modulus);
         }
         if (HasFailure())
             return;
     }
+}
+
+// Up to two limbs they are computed in registers.
+TEST(LimbPower, OfNumbersOfAllPatternsModuloShortOnes) {
+    Operands operands(106);
+    onModuli(107, {1, 2, 3}, [&](Limbs const& modulus) {
+        for (Pattern const pattern : patterns) {
+            Limbs const base = atMost(operands.make(pattern, modulus.size()), modulus);
+            for (Limb const e : {1U, 2U, 3U, 5U, 0x10001U})
+                expectPower(base, {e}, modulus);
+        }
+    });
 }
 
 // One window alone fills one bucket; the others must be joined as if they were 1.

@@ -7,10 +7,10 @@
 
 namespace qel::limbs {
 
-// Newton: an inverse modulo 2^k is one modulo 2^(2k) after a step; odd * odd = 1 modulo 8.
+// Newton: an inverse modulo 2^k is one modulo 2^(2k) after a step; the first has 5 bits right.
 Limb negatedInverse(Limb odd) noexcept {
-    Limb inverse = odd;
-    for (int bits = 3; bits < bitsPerLimb; bits *= 2)
+    Limb inverse = (3 * odd) ^ 2;
+    for (int bits = 5; bits < bitsPerLimb; bits *= 2)
         inverse *= 2 - odd * inverse;
     return 0 - inverse;
 }
@@ -31,9 +31,11 @@ void MontgomeryContext::multiply(Limb* out, Limb const* a, Limb const* b) const 
     kernels().reduce(out, product, modulus, count, inverse);
 }
 
-void MontgomeryContext::square(Limb* out, Limb const* a) const noexcept {
-    limbs::square(product, a, count, scratch);
-    kernels().reduce(out, product, modulus, count, inverse);
+void MontgomeryContext::squareTimes(Limb* a, long long times) const noexcept {
+    for (; times > 0; --times) {
+        limbs::square(product, a, count, scratch);
+        kernels().reduce(a, product, modulus, count, inverse);
+    }
 }
 
 void MontgomeryContext::leave(Limb* out, Limb const* a) const noexcept {

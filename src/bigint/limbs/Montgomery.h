@@ -17,7 +17,8 @@ class MontgomeryContext {
     MontgomeryContext(Limb const* m, std::size_t limbCount, Limb* productAndScratch) noexcept;
 
     void multiply(Limb* out, Limb const* a, Limb const* b) const noexcept;
-    void square(Limb* out, Limb const* a) const noexcept;
+    /// a = a^(2^times).
+    void squareTimes(Limb* a, long long times) const noexcept;
     /// Into the representation, by one long division.
     void enter(Limb* out, Limb const* a) const noexcept;
     /// Out of it.

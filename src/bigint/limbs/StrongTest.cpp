@@ -86,7 +86,7 @@ bool StrongTest::passes(Limb witness) noexcept {
     if (isEqual(one) || isEqual(minusOne))
         return true;
     for (long long j = 1; j < twos; ++j) {
-        context.square(power, power);
+        context.squareTimes(power, 1);
         if (isEqual(minusOne))
             return true;
     }
@@ -94,18 +94,18 @@ bool StrongTest::passes(Limb witness) noexcept {
 }
 
 bool StrongLimbTest::passes(Limb witness) const noexcept {
-    Limb const base = montgomery.enter(witness);
+    Limb const base = montgomery.enter(witness % n);
     Limb power = base;
     for (int i = bitsPerLimb - 1 - std::countl_zero(oddPart); i-- > 0;) {
         power = montgomery.multiply(power, power);
         if ((oddPart >> i & 1) != 0)
             power = montgomery.multiply(power, base);
     }
-    if (power == montgomery.unit() || power == montgomery.minusUnit())
+    if (power == one || power == n - one)
         return true;
     for (int j = 1; j < twos; ++j) {
         power = montgomery.multiply(power, power);
-        if (power == montgomery.minusUnit())
+        if (power == n - one)
             return true;
     }
     return false;
@@ -121,8 +121,7 @@ void StrongTest::raiseToOddPart(Limb witness) noexcept {
     multiplyLimb(powers.table[bitsAt(n, count, low, width)]);
     for (width = powers.width; low > twos;) {
         low -= width;
-        for (int i = 0; i < width; ++i)
-            context.square(power, power);
+        context.squareTimes(power, width);
         multiplyLimb(powers.table[bitsAt(n, count, low, width)]);
     }
 }

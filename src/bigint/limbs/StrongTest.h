@@ -1,7 +1,7 @@
 // Strong probable primes (Rabin, "Probabilistic algorithm for testing primality", 1980).
 #pragma once
 
-#include "MontgomeryLimb.h"
+#include "ShortMontgomery.h"
 
 #include <bit>
 
@@ -37,14 +37,18 @@ class StrongTest {
 /// The same for a number of one limb, in registers.
 class StrongLimbTest {
   public:
-    /// @param n odd and above 1
-    explicit StrongLimbTest(Limb n) noexcept
-        : montgomery(n), twos(std::countr_zero(n - 1)), oddPart((n - 1) >> twos) {}
+    /// @param number odd and above 1
+    explicit StrongLimbTest(Limb number) noexcept
+        : n(number), montgomery(n), one(montgomery.enter(1)), twos(std::countr_zero(n - 1)),
+          oddPart((n - 1) >> twos) {}
 
     [[nodiscard]] bool passes(Limb witness) const noexcept;
 
   private:
-    MontgomeryLimb montgomery;
+    Limb n;
+    ShortMontgomery<Limb> montgomery;
+    /// What represents 1.
+    Limb one;
     int twos;
     Limb oddPart;
 };
