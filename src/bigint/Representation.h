@@ -64,10 +64,14 @@ struct Representation {
     [[nodiscard]] static LargeInteger gcdOfMagnitudes(LargeInteger const& a,
                                                       LargeInteger const& b) noexcept;
     [[nodiscard]] static bool invert(LargeInteger& a, LargeInteger const& m) noexcept;
-    static void raise(LargeInteger& a, Magnitude base, Magnitude exponent,
-                      Magnitude modulus) noexcept;
+    /// What a power keeps: bound and capacity of its last product, or those of a new zero that it
+    /// was then added to.
+    enum class Kept { asProduct, asSum };
+    [[nodiscard]] static bool raise(LargeInteger& a, LargeInteger const& e, LargeInteger const& m,
+                                    Kept kept) noexcept;
 
-    static void become(LargeInteger& a, Limb const* value, int top, int capacity) noexcept;
+    static void become(LargeInteger& a, Limb const* value, std::size_t count, int bound,
+                       int capacity) noexcept;
     template <int bits>
     static void parseBits(LargeInteger& a, char const* text) noexcept;
     static void parseDecimal(LargeInteger& a, char const* text) noexcept;

@@ -66,6 +66,12 @@ bool RSAKey::operator!=(RSAKey const& other) const noexcept {
 }
 
 bool RSAKey::applyToValue(LargeInteger& value) const noexcept {
+    // The value itself is the one digit.
+    if (value.compareAbsolute(modulus) < 0
+        && Representation::raise(value, exponent, modulus, Representation::Kept::asSum)) {
+        value.setNegative(modulus.isNegative());
+        return true;
+    }
     if (exponent.isZero() || modulus.isZero() || value <= LargeInteger(0)) {
         value.clear();
         return false;
