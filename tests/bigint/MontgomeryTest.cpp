@@ -136,6 +136,42 @@ TEST(LimbReduce, OfTheLargestAndOfMultiplesOfTheModulus) {
     });
 }
 
+void expectReducedByHalves(Limbs const& t, Limbs const& modulus) {
+    std::size_t const count = modulus.size();
+    Limb const inverse = limbs::negatedInverse(modulus[0]);
+    Limbs expected(count);
+    Limbs used = t;
+    limbs::portableKernels.reduce(expected.data(), used.data(), modulus.data(), count, inverse);
+    Fenced out(count);
+    Fenced inT(t);
+    Fenced scratch(limbs::reduceByHalvesScratch(count));
+    limbs::reduceByHalves(out.data(), inT.data(), modulus.data(), count, inverse, scratch.data());
+    ASSERT_TRUE(out.holds(expected)) << input("t", t, "modulus", modulus);
+    ASSERT_TRUE(inT.intact() && scratch.intact()) << input("t", t, "modulus", modulus);
+}
+
+// The largest t and multiples of the modulus carry through all limbs.
+TEST(LimbReduceByHalves, AgreesWithReductionsRowByRow) {
+    Operands operands(75);
+    std::vector<std::size_t> lengths = {2, 3, 5};
+    for (std::size_t const split : {limbs::reduceSplit, 2 * limbs::reduceSplit})
+        lengths.insert(lengths.end(), {split - 1, split, split + 1});
+    lengths.push_back(4 * limbs::reduceSplit + 3);
+    onModuli(76, lengths, [&](Limbs const& modulus) {
+        for (Pattern const pattern : patterns)
+            expectReducedByHalves(dividend(operands, pattern, modulus), modulus);
+        Limbs largest(modulus.size(), allOnes);
+        Limbs const high = before(modulus);
+        largest.insert(largest.end(), high.begin(), high.end());
+        expectReducedByHalves(largest, modulus);
+        for (Limb const k : {Limb{0}, Limb{1}, allOnes}) {
+            Limbs multiple = product(modulus, {k});
+            multiple.resize(2 * modulus.size());
+            expectReducedByHalves(multiple, modulus);
+        }
+    });
+}
+
 // --- powers -------------------------------------------------------------------------------------
 
 plain::LargeInteger plainOf(Limbs const& a) {
@@ -349,6 +385,19 @@ TEST(LimbPower, ModuloNumbersWhoseProductsAreTakenByHalves) {
                  modulus[0] -= 1;
                  expectPower(anyBelow(operands, modulus), {0b1'0110'1111}, modulus);
              });
+}
+
+TEST(LimbPower, ModuloNumbersWhoseProductsAreReducedByHalves) {
+    Operands operands(108);
+    for (std::size_t const count :
+         {limbs::reduceSplit - 1, limbs::reduceSplit, limbs::reduceSplit + 1}) {
+        Limbs modulus = operands.make(Pattern::uniform, count);
+        modulus.back() |= 1;
+        for (Limb const lowest : {modulus[0] | 1, modulus[0] & ~Limb{1}}) {
+            modulus[0] = lowest;
+            expectPower(anyBelow(operands, modulus), {0b1011}, modulus);
+        }
+    }
 }
 
 }  // namespace

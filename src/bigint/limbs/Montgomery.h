@@ -9,6 +9,13 @@ namespace qel::limbs {
 /// -1 / odd modulo 2^64.
 [[nodiscard]] Limb negatedInverse(Limb odd) noexcept;
 
+/// As the kernel `reduce`, for 2 limbs or more, by halves: the quotients of Hensel's division from
+/// the lowest limb up, as long division has them by halves (Brent and Zimmermann, "Modern Computer
+/// Arithmetic", 2.4).
+void reduceByHalves(Limb* out, Limb* t, Limb const* modulus, std::size_t count, Limb negatedInverse,
+                    Limb* scratch) noexcept;
+std::size_t reduceByHalvesScratch(std::size_t count) noexcept;
+
 /// Arithmetic modulo an odd number m of `count` limbs, the highest not zero. x is represented by
 /// x * 2^(64 count) mod m; all numbers have `count` limbs and are below m.
 class MontgomeryContext {
@@ -25,6 +32,8 @@ class MontgomeryContext {
     void leave(Limb* out, Limb const* a) const noexcept;
 
   private:
+    void reduce(Limb* out) const noexcept;
+
     Limb const* modulus;
     std::size_t count;
     Limb inverse;

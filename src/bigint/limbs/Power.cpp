@@ -27,6 +27,12 @@ class DivisionContext {
             shiftLeft(divisor, divisor, count, shift);
     }
 
+    static std::size_t limbsNeeded(std::size_t count) noexcept {
+        return 4 * count + 2
+               + std::max(
+                   {multiplyScratch(count, count), squareScratch(count), divideScratch(count)});
+    }
+
     void multiply(Limb* out, Limb const* a, Limb const* b) const noexcept {
         limbs::multiply(product, a, count, b, count, scratch);
         reduce(out);
@@ -52,7 +58,7 @@ class DivisionContext {
             out[0] = divideLimb(quotient, product, 2, divisor[0]) >> shift;
             return;
         }
-        divideNormalized(quotient, product, 2 * count + 1, divisor, count);
+        divide(quotient, product, 2 * count + 1, divisor, count, scratch);
         if (shift != 0)
             shiftRight(out, product, count, shift);
         else
@@ -148,12 +154,11 @@ bool joinBuckets(Buckets& buckets, std::size_t bucketCount, Context const& conte
 
 }  // namespace
 
-// The current power and the joined product, the buckets, and what the larger context needs, which
-// is that of divisions.
+// The current power and the joined product, the buckets, and what the larger context needs.
 std::size_t powerScratch(std::size_t count, long long top) noexcept {
     std::size_t const buckets = std::size_t{1} << (windowWidth(top) - 1);
-    return (2 + buckets) * count + 4 * count + 2
-           + std::max(multiplyScratch(count, count), squareScratch(count));
+    return (2 + buckets) * count
+           + std::max(DivisionContext::limbsNeeded(count), montgomeryScratch(count));
 }
 
 namespace {
