@@ -53,9 +53,20 @@ bool testsEight(std::size_t count) noexcept {
     return limbs::laneKernels().pays && count >= fewestLimbs && count <= limbs::longestStrongTest;
 }
 
+/// A number below 2^64 that passes with the first twelve primes is one (Sorenson and Webster,
+/// "Strong pseudoprimes to twelve prime bases", 2017), and as such passes with all witnesses that
+/// it does not divide: at least those below 2048.
+constexpr int decidingWitnesses = 11;
+constexpr int witnessesBelow2048 = 308;
+static_assert(smallPrimes[decidingWitnesses] == 37 && smallPrimes[witnessesBelow2048] < 2048);
+
 template <typename Test>
-bool passesAll(Test test, OddPrimes witnesses, int witnessCount) noexcept {
-    for (; witnessCount > 0; --witnessCount) {
+bool passesAll(Test test, int witnessCount, bool isLimb) noexcept {
+    OddPrimes witnesses;
+    bool const isDecided = isLimb && witnessCount <= witnessesBelow2048;
+    for (int passed = 0; passed < witnessCount; ++passed) {
+        if (isDecided && passed == decidingWitnesses && test.passes(2))
+            return true;
         if (!test.passes(witnesses.next()))
             return false;
     }
@@ -63,9 +74,14 @@ bool passesAll(Test test, OddPrimes witnesses, int witnessCount) noexcept {
 }
 
 bool passesOneByOne(Limb const* n, std::size_t count, int witnessCount, Limb* scratch) noexcept {
+    using limbs::DoubleLimb;
     count = limbs::significant(n, count);
-    return count == 1 ? passesAll(limbs::StrongLimbTest(n[0]), {}, witnessCount)
-                      : passesAll(limbs::StrongTest(n, count, scratch), {}, witnessCount);
+    if (count == 1)
+        return passesAll(limbs::ShortStrongTest<Limb>(n[0]), witnessCount, true);
+    if (count == 2)
+        return passesAll(limbs::ShortStrongTest<DoubleLimb>(limbs::load<DoubleLimb>(n)),
+                         witnessCount, false);
+    return passesAll(limbs::StrongTest(n, count, scratch), witnessCount, false);
 }
 
 /// Lanes left over repeat the last witness.

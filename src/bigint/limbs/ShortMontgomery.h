@@ -47,6 +47,21 @@ void store(Limb* out, Number a) noexcept {
         out[1] = high(a);
 }
 
+/// The number of the lowest bit set.
+inline int lowestBit(Limb a) noexcept {
+    return std::countr_zero(a);
+}
+inline int lowestBit(DoubleLimb a) noexcept {
+    return low(a) != 0 ? lowestBit(low(a)) : bitsPerLimb + lowestBit(high(a));
+}
+/// The number of the highest.
+inline int highestBit(Limb a) noexcept {
+    return bitsPerLimb - 1 - std::countl_zero(a);
+}
+inline int highestBit(DoubleLimb a) noexcept {
+    return high(a) != 0 ? bitsPerLimb + highestBit(high(a)) : highestBit(low(a));
+}
+
 /// a * 2^64 mod n, for a < n.
 inline Limb shiftedUp(Limb a, Limb n) noexcept {
     return static_cast<Limb>((DoubleLimb{a} << bitsPerLimb) % n);

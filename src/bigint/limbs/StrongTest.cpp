@@ -93,10 +93,11 @@ bool StrongTest::passes(Limb witness) noexcept {
     return false;
 }
 
-bool StrongLimbTest::passes(Limb witness) const noexcept {
-    Limb const base = montgomery.enter(witness % n);
-    Limb power = base;
-    for (int i = bitsPerLimb - 1 - std::countl_zero(oddPart); i-- > 0;) {
+template <typename Number>
+bool ShortStrongTest<Number>::passes(Limb witness) const noexcept {
+    Number const base = montgomery.enter(witness % n);
+    Number power = base;
+    for (int i = highestBit(oddPart); i-- > 0;) {
         power = montgomery.multiply(power, power);
         if ((oddPart >> i & 1) != 0)
             power = montgomery.multiply(power, base);
@@ -110,6 +111,9 @@ bool StrongLimbTest::passes(Limb witness) const noexcept {
     }
     return false;
 }
+
+template class ShortStrongTest<Limb>;
+template class ShortStrongTest<DoubleLimb>;
 
 void StrongTest::raiseToOddPart(Limb witness) noexcept {
     DigitPowers const powers(witness);
