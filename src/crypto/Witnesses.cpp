@@ -61,9 +61,8 @@ constexpr int witnessesBelow2048 = 308;
 static_assert(smallPrimes[decidingWitnesses] == 37 && smallPrimes[witnessesBelow2048] < 2048);
 
 template <typename Test>
-bool passesAll(Test test, int witnessCount, bool isLimb) noexcept {
+bool passesAll(Test test, int witnessCount, bool isDecided) noexcept {
     OddPrimes witnesses;
-    bool const isDecided = isLimb && witnessCount <= witnessesBelow2048;
     for (int passed = 0; passed < witnessCount; ++passed) {
         if (isDecided && passed == decidingWitnesses && test.passes(2))
             return true;
@@ -75,9 +74,10 @@ bool passesAll(Test test, int witnessCount, bool isLimb) noexcept {
 
 bool passesOneByOne(Limb const* n, std::size_t count, int witnessCount, Limb* scratch) noexcept {
     using limbs::DoubleLimb;
+    bool const isDecided = passingProves(n, count, witnessCount);
     count = limbs::significant(n, count);
     if (count == 1)
-        return passesAll(limbs::ShortStrongTest<Limb>(n[0]), witnessCount, true);
+        return passesAll(limbs::ShortStrongTest<Limb>(n[0]), witnessCount, isDecided);
     if (count == 2)
         return passesAll(limbs::ShortStrongTest<DoubleLimb>(limbs::load<DoubleLimb>(n)),
                          witnessCount, false);
@@ -128,9 +128,17 @@ std::size_t witnessScratch(std::size_t count) noexcept {
     return testsEight(count) ? limbs::strongTestsScratch(count) : limbs::strongTestScratch(count);
 }
 
+bool passingProves(Limb const* n, std::size_t count, int witnessCount) noexcept {
+    return limbs::significant(n, count) == 1 && witnessCount > decidingWitnesses
+           && witnessCount <= witnessesBelow2048;
+}
+
 int indexOfPassing(std::span<Limb const* const> numbers, std::size_t count, int witnessCount,
                    Limb* scratch) noexcept {
-    bool const byEight = testsEight(count) && witnessCount > 0;
+    bool const areLimbs = std::all_of(numbers.begin(), numbers.end(), [count](Limb const* n) {
+        return limbs::significant(n, count) == 1;
+    });
+    bool const byEight = testsEight(count) && witnessCount > 0 && !areLimbs;
     if (byEight && numbers.size() > 1)
         return indexByEight(numbers, count, witnessCount, scratch);
     for (std::size_t k = 0; k < numbers.size(); ++k) {

@@ -95,12 +95,19 @@ bool StrongTest::passes(Limb witness) noexcept {
 
 template <typename Number>
 bool ShortStrongTest<Number>::passes(Limb witness) const noexcept {
-    Number const base = montgomery.enter(witness % n);
-    Number power = base;
-    for (int i = highestBit(oddPart); i-- > 0;) {
-        power = montgomery.multiply(power, power);
-        if ((oddPart >> i & 1) != 0)
-            power = montgomery.multiply(power, base);
+    // Three bits at a time, without branches.
+    constexpr int width = 3;
+    std::array<Number, std::size_t{1} << width> powers{one, montgomery.enter(witness % n)};
+    for (std::size_t digit = 2; digit < powers.size(); ++digit)
+        powers[digit] = montgomery.multiply(powers[digit - 1], powers[1]);
+    int low = highestBit(oddPart) / width * width;
+    Number power = powers[static_cast<std::size_t>(oddPart >> low)];
+    while (low > 0) {
+        low -= width;
+        for (int i = 0; i < width; ++i)
+            power = montgomery.multiply(power, power);
+        auto const digit = static_cast<std::size_t>(oddPart >> low) % powers.size();
+        power = montgomery.multiply(power, powers[digit]);
     }
     if (power == one || power == n - one)
         return true;
