@@ -63,12 +63,12 @@ inline int highestBit(DoubleLimb a) noexcept {
 }
 
 /// a * 2^64 mod n, for a < n.
-inline Limb shiftedUp(Limb a, Limb n) noexcept {
+inline Limb timesRadix(Limb a, Limb n) noexcept {
     return static_cast<Limb>((DoubleLimb{a} << bitsPerLimb) % n);
 }
 
 /// a * 2^128 mod n, for a < n and an n above 2^64.
-inline DoubleLimb shiftedUp(DoubleLimb a, DoubleLimb n) noexcept {
+inline DoubleLimb timesRadix(DoubleLimb a, DoubleLimb n) noexcept {
     int const shift = std::countl_zero(high(n));
     DoubleLimb const divisor = n << shift;
     Limb const inverse = reciprocalOfTwo(high(divisor), low(divisor));
@@ -96,7 +96,7 @@ class ShortMontgomery {
         Number const difference = product.high - subtrahend;
         return product.high < subtrahend ? difference + n : difference;
     }
-    [[nodiscard]] Number enter(Number a) const noexcept { return shiftedUp(a, n); }
+    [[nodiscard]] Number enter(Number a) const noexcept { return timesRadix(a, n); }
     [[nodiscard]] Number leave(Number a) const noexcept { return multiply(a, 1); }
 
   private:
