@@ -3,18 +3,22 @@
 #ifndef QEL_LARGEINTEGER_H
 #define QEL_LARGEINTEGER_H
 
+#include <array>
 #include <cstdint>
 #include <string>
+#include <utility>
 
 namespace qel {
 
 namespace internal {
 struct Representation;  // of the library's own sources
-}
+class ResultLimbs;
+}  // namespace internal
 
 /// A signed integer of any width, with bit access and number theory.
 ///
-/// A value type: each object owns its buffer, a copy is a deep one. The representation is a
+/// A value type: each object owns its limbs, a copy is a deep one. A value whose capacity is nine
+/// 32-bit words or fewer needs no memory beside the object. The representation is a
 /// magnitude and a sign flag, not two's complement. A zero may carry the flag (a negative zero);
 /// every query treats it as zero, it compares equal to zero and prints without a sign.
 ///
@@ -41,7 +45,7 @@ class LargeInteger {
     /// @{
 
     /// Zero.
-    LargeInteger() noexcept;
+    LargeInteger() noexcept : data(own.data()) {}
     /// The value `v`.
     LargeInteger(int v) noexcept;
     /// The value `v`.
@@ -51,27 +55,37 @@ class LargeInteger {
     /// So is every other 64-bit type but `long long`: `std::size_t`, `std::uint64_t`, and on Linux
     /// `std::int64_t`. An unsigned one is `(LargeInteger(high) << 32) + LargeInteger(low)`.
     LargeInteger(long long v) noexcept;
-    /// A deep copy, in a buffer just large enough for the source's cached bound.
+    /// A deep copy, with a capacity just large enough for the source's cached bound.
     LargeInteger(LargeInteger const& source) noexcept;
-    /// What a copy would be, without copying where the source's buffer is as tight as the copy's.
-    /// The source becomes zero.
+    /// What a copy would be, without copying memory. The source becomes zero.
     LargeInteger(LargeInteger&& source) noexcept;
     /// Gives the memory back.
-    ~LargeInteger() noexcept;
-    /// A deep copy, in a new buffer just large enough for the value. Self-assignment does nothing.
+    ~LargeInteger() noexcept {
+        if (data != own.data())
+            freeMemory();
+    }
+    /// A deep copy, with a capacity just large enough for the value. Self-assignment does nothing.
     LargeInteger& operator=(LargeInteger const& source) noexcept;
-    /// What the assigned copy would be, without copying where the source's buffer is as tight as
-    /// the copy's. The source becomes zero, unless it is this object.
+    /// What the assigned copy would be, without copying memory. The source becomes zero, unless it
+    /// is this object.
     LargeInteger& operator=(LargeInteger&& source) noexcept;
-    /// Exchanges the two values without copying.
-    void swapWith(LargeInteger& other) noexcept;
+    /// Exchanges the two values without copying memory.
+    void swapWith(LargeInteger& other) noexcept {
+        if (data == own.data() || other.data == other.own.data())
+            swapOwnLimbs(other);
+        std::swap(data, other.data);
+        std::swap(size, other.size);
+        std::swap(highestBit, other.highestBit);
+        std::swap(room, other.room);
+        std::swap(negative, other.negative);
+    }
     /// Becomes zero, without a sign. A buffer of 17 words or more is released for a small one.
     void clear() noexcept;
     /// A reservation: makes room above the 32-bit word of index `w`, so that setting bits up to
     /// there allocates nothing; sums and shifts want one word more. The value does not change. Does
     /// nothing where there is room already.
     ///
-    /// Assignment, products and quotients take a new buffer; `clear` may.
+    /// Assignment, products and quotients take a capacity of their own; `clear` may.
     void ensureSize(int w) noexcept;
 
     /// @}
@@ -79,28 +93,44 @@ class LargeInteger {
     /// @{
 
     /// Stores the sign flag as given, even on zero, which then is a negative zero.
-    void setNegative(bool flag) noexcept;
+    void setNegative(bool flag) noexcept { negative = flag; }
     /// True for zero, a negative zero included.
-    [[nodiscard]] bool isZero() const noexcept;
+    [[nodiscard]] bool isZero() const noexcept {
+        return data[0] == 0 && (highestBit < bitsPerLimb || getHighestBit() < 0);
+    }
     /// True for +1; -1 is not one.
-    [[nodiscard]] bool isOne() const noexcept;
+    [[nodiscard]] bool isOne() const noexcept {
+        return data[0] == 1 && !negative && (highestBit < bitsPerLimb || getHighestBit() == 0);
+    }
     /// True below zero; false for a negative zero.
-    [[nodiscard]] bool isNegative() const noexcept;
+    [[nodiscard]] bool isNegative() const noexcept { return negative && !isZero(); }
     /// Changes the sign of the object itself; any zero loses its flag.
     /// @return the new sign: true when the value is now negative.
-    bool negate() noexcept;
+    bool negate() noexcept {
+        negative = !negative && !isZero();
+        return negative;
+    }
     /// Drops all but the low 31 bits of the magnitude silently, and applies the sign: 2^31 and
     /// -2^31 give 0.
-    [[nodiscard]] int toInteger() const noexcept;
+    [[nodiscard]] int toInteger() const noexcept {
+        int const low = static_cast<int>(data[0] & 0x7FFFFFFF);
+        return negative ? -low : low;
+    }
 
     /// @}
     /// @name Bits of the magnitude
     /// @{
 
     /// The index of the highest set bit; -1 for zero.
-    [[nodiscard]] int getHighestBit() const noexcept;
+    [[nodiscard]] int getHighestBit() const noexcept {
+        return highestBit < 0 || leading() == 1 ? highestBit : findHighestBit();
+    }
     /// Bit `i`, 0 or 1; 0 for every position outside the value.
-    [[nodiscard]] int operator[](int i) const noexcept;
+    [[nodiscard]] int operator[](int i) const noexcept {
+        return i >= 0 && i <= highestBit
+                   ? static_cast<int>(data[i / bitsPerLimb] >> (i % bitsPerLimb) & 1)
+                   : 0;
+    }
     /// Sets bit `i`, growing the value as needed; ignored for a negative `i`.
     void setBit(int i) noexcept;
     /// Sets or clears bit `i`, as setBit(int) and clearBit do.
@@ -138,17 +168,29 @@ class LargeInteger {
     /// Compares the values: 1, 0 or -1.
     [[nodiscard]] int compare(LargeInteger const& other) const noexcept;
     /// True for equal values, whatever flag a zero carries.
-    [[nodiscard]] bool operator==(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator==(LargeInteger const& other) const noexcept {
+        return data[0] == other.data[0] && isSame(other);
+    }
     /// True for two values that differ.
-    [[nodiscard]] bool operator!=(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator!=(LargeInteger const& other) const noexcept {
+        return !(*this == other);
+    }
     /// True when this value is below `other`.
-    [[nodiscard]] bool operator<(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator<(LargeInteger const& other) const noexcept {
+        return compare(other) < 0;
+    }
     /// True when this value is not above `other`.
-    [[nodiscard]] bool operator<=(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator<=(LargeInteger const& other) const noexcept {
+        return compare(other) <= 0;
+    }
     /// True when this value is above `other`.
-    [[nodiscard]] bool operator>(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator>(LargeInteger const& other) const noexcept {
+        return compare(other) > 0;
+    }
     /// True when this value is not below `other`.
-    [[nodiscard]] bool operator>=(LargeInteger const& other) const noexcept;
+    [[nodiscard]] bool operator>=(LargeInteger const& other) const noexcept {
+        return compare(other) >= 0;
+    }
 
     /// @}
     /// @name Bitwise operators
@@ -190,9 +232,25 @@ class LargeInteger {
     /// The value with the other sign; zero for any zero.
     [[nodiscard]] LargeInteger operator-() const noexcept;
     /// Adds 1, as `+= 1` does.
-    LargeInteger& operator++() noexcept;
+    LargeInteger& operator++() noexcept {
+        // Without a carry, an exact bound rises by one at most, and with room for two words more
+        // the capacity stays.
+        bool const isSimple = !negative && highestBit >= 0 && data[0] != ~std::uint64_t{0}
+                              && (highestBit + 1LL) / 32 + 3 < size && leading() == 1;
+        if (!isSimple)
+            return addOne();
+        ++data[0];
+        highestBit += static_cast<int>(leading() >> 1);
+        return *this;
+    }
     /// Subtracts 1, as `-= 1` does.
-    LargeInteger& operator--() noexcept;
+    LargeInteger& operator--() noexcept {
+        // Without a borrow, bound and capacity stay.
+        if (negative || data[0] == 0)
+            return subtractOne();
+        --data[0];
+        return *this;
+    }
     /// Adds 1 and returns the old value, at the cost of a copy.
     LargeInteger operator++(int) noexcept;
     /// Subtracts 1 and returns the old value, at the cost of a copy.
@@ -295,17 +353,37 @@ class LargeInteger {
     friend struct internal::Representation;
     friend struct LargeIntegerPeer;
 
-    LargeInteger(std::uint64_t* limbs, int capacity, int bound, bool flag) noexcept;
+    static constexpr int bitsPerLimb = 64;
 
-    /// The magnitude, least significant limb first: room for `size` 32-bit words and one more.
+    /// The `used` limbs of a result, with a capacity that holds them.
+    LargeInteger(internal::ResultLimbs& limbs, std::size_t used, int capacity, int bound,
+                 bool flag) noexcept;
+
+    /// The bits of the limb of the cached bound, from the bound up: 1 where the bound is exact.
+    [[nodiscard]] std::uint64_t leading() const noexcept {
+        return data[highestBit / bitsPerLimb] >> (highestBit % bitsPerLimb);
+    }
+    void freeMemory() noexcept;
+    void swapOwnLimbs(LargeInteger& other) noexcept;
+    [[nodiscard]] int findHighestBit() const noexcept;
+    [[nodiscard]] bool isSame(LargeInteger const& other) const noexcept;
+    LargeInteger& addOne() noexcept;
+    LargeInteger& subtractOne() noexcept;
+
+    /// The limbs of a value that needs no more.
+    std::array<std::uint64_t, 5> own{};
+    /// The magnitude, least significant limb first: room for `size` 32-bit words and one more, in
+    /// the object itself or on the heap.
     std::uint64_t* data;
     /// Capacity in 32-bit words.
-    std::int32_t size;
+    std::int32_t size = 4;
     /// An upper bound of the index of the highest set bit; -1 for no bits. It may be too high
     /// after operations that can only lower the top: bits between are zero.
-    std::int32_t highestBit;
+    std::int32_t highestBit = -1;
+    /// The limbs at `data`, used or not.
+    std::int32_t room = 5;
     /// The sign flag; without meaning on a zero magnitude, but kept.
-    bool negative;
+    bool negative = false;
 };
 
 }  // namespace qel

@@ -26,7 +26,9 @@ void addMagnitudes(Limb* out, Magnitude a, Magnitude b) noexcept {
         return;
     }
     Limb const carry = limbs::add(out, a.value, b.value, common);
-    out[count] = limbs::addLimb(out + common, a.value + common, count - common, carry);
+    out[count] = common == count
+                     ? carry
+                     : limbs::addLimb(out + common, a.value + common, count - common, carry);
 }
 
 /// out = a - b for a >= b, which has the limbs of a; `out` may be either.
@@ -38,14 +40,15 @@ void subtractMagnitudes(Limb* out, Magnitude a, Magnitude b) noexcept {
         return;
     }
     Limb const borrow = limbs::subtract(out, a.value, b.value, common);
-    limbs::subtractLimb(out + common, a.value + common, count - common, borrow);
+    if (common != count)
+        limbs::subtractLimb(out + common, a.value + common, count - common, borrow);
 }
 
 }  // namespace
 
 // The steps of a signed sum: magnitudes of one sign are added. Of two signs the smaller one is
 // subtracted from the larger, which leaves the bound where it was. Where that is b, the object
-// first becomes a copy of b: one sized by the top of b when its sign was dropped before or the
+// is what becomes of a copy of b: one sized by the top of b when its sign was dropped before or the
 // object is negative, otherwise one sized by b's cached bound.
 void internal::Representation::add(LargeInteger& a, Magnitude b, int bBound, bool bFlag,
                                    bool subtract) noexcept {
@@ -68,11 +71,12 @@ void internal::Representation::add(LargeInteger& a, Magnitude b, int bBound, boo
         if (aNegative)
             a.negative = !a.isZero();
     } else {
-        int const sizeTop = aNegative ? b.top : bBound;
-        LargeInteger difference = sized(resultBuffer(limbCount(sizeTop)), 0, sizeTop, !aNegative);
-        difference.highestBit = b.top;
-        subtractMagnitudes(difference.data, b, old);
-        a.swapWith(difference);
+        a.size = tightSize(aNegative ? b.top : bBound);
+        makeRoom(a, a.size);
+        subtractMagnitudes(a.data, b, {a.data, old.top});
+        std::fill(a.data + b.count(), a.data + bufferLimbs(a.size), Limb{0});
+        a.highestBit = b.top;
+        a.negative = !aNegative;
     }
 }
 
@@ -84,17 +88,17 @@ LargeInteger internal::Representation::sum(LargeInteger const& a, LargeInteger c
     bool const xNegative = a.negative && x.top >= 0;
     bool const yNegative = b.negative && y.top >= 0;
     std::size_t const count = std::max(x.count(), y.count());
-    Limb* const out = resultBuffer(count + 1);
+    ResultLimbs out(count + 1);
     if (xNegative == (yNegative != subtract)) {
-        addMagnitudes(out, x, y);
+        addMagnitudes(out.get(), x, y);
         return tight(out, count + 1, a.negative);
     }
     int const order = compareMagnitudes(x, y);
     if (order < 0) {
-        subtractMagnitudes(out, y, x);
+        subtractMagnitudes(out.get(), y, x);
         return sized(out, count, y.top, !xNegative);
     }
-    subtractMagnitudes(out, x, y);
+    subtractMagnitudes(out.get(), x, y);
     return sized(out, count, x.top, a.negative && !(xNegative && order == 0));
 }
 
@@ -125,13 +129,11 @@ LargeInteger& LargeInteger::operator*=(LargeInteger const& b) noexcept {
     bool const rightNegative = this != &b && b.negative && right.top >= 0;
     int const capacity = productCapacity(left, right.top);
     std::size_t const count = productLimbs(left, right);
-    std::size_t const room = std::max(count, bufferLimbs(capacity));
-    Limb* const out = newBuffer(room);
-    multiply(out, left, right);
-    std::fill(out + count, out + room, Limb{0});
-    LargeInteger product(out, capacity, checkedPosition(topBit(out, count)),
-                         leftNegative != rightNegative);
-    swapWith(product);
+    Workspace workspace(count);
+    multiply(workspace.rest(), left, right);
+    Representation::assign(*this, workspace.rest(),
+                           checkedPosition(topBit(workspace.rest(), count)), capacity);
+    negative = leftNegative != rightNegative;
     return *this;
 }
 
@@ -139,8 +141,8 @@ LargeInteger LargeInteger::operator*(LargeInteger const& b) const noexcept {
     Magnitude const left = Representation::magnitude(*this);
     Magnitude const right = Representation::magnitude(b);
     std::size_t const count = productLimbs(left, right);
-    Limb* const out = Representation::resultBuffer(count);
-    multiply(out, left, right);
+    ResultLimbs out(count);
+    multiply(out.get(), left, right);
     bool const leftNegative = negative && left.top >= 0;
     bool const rightNegative = b.negative && right.top >= 0;
     return Representation::tight(out, count, leftNegative != rightNegative);
@@ -152,12 +154,12 @@ LargeInteger LargeInteger::operator-() const noexcept {
     return opposite;
 }
 
-LargeInteger& LargeInteger::operator++() noexcept {
+LargeInteger& LargeInteger::addOne() noexcept {
     Representation::add(*this, oneMagnitude, 0, false, false);
     return *this;
 }
 
-LargeInteger& LargeInteger::operator--() noexcept {
+LargeInteger& LargeInteger::subtractOne() noexcept {
     Representation::add(*this, oneMagnitude, 0, false, true);
     return *this;
 }

@@ -31,7 +31,7 @@ void forEachLimb(Limb* a, long long start, long long end, Apply apply) noexcept 
     }
 }
 
-/// `count` <= 64 bits from `start` up, at or below the bound.
+/// `count` <= 64 bits from `start` up, which is at or below the bound; above it there are zeros.
 Limb bitsFrom(Limb const* a, int bound, long long start, long long count) noexcept {
     std::size_t const i = limbIndex(start);
     auto const shift = static_cast<int>(start % limbs::bitsPerLimb);
@@ -43,14 +43,8 @@ Limb bitsFrom(Limb const* a, int bound, long long start, long long count) noexce
 
 }  // namespace
 
-int LargeInteger::getHighestBit() const noexcept {
-    return Representation::magnitude(*this).top;
-}
-
-int LargeInteger::operator[](int i) const noexcept {
-    if (i < 0 || i > highestBit)
-        return 0;
-    return (data[limbIndex(i)] & bitMask(i)) != 0 ? 1 : 0;
+int LargeInteger::findHighestBit() const noexcept {
+    return static_cast<int>(topBit(data, limbCount(highestBit)));
 }
 
 void LargeInteger::setBit(int i) noexcept {
@@ -94,11 +88,9 @@ void LargeInteger::setRange(int start, int count, bool value) noexcept {
 }
 
 int LargeInteger::getBitRangeAsInt(int start, int count) const noexcept {
-    long long const n = std::min({static_cast<long long>(count),
-                                  static_cast<long long>(bitsPerWord), highestBit + 1LL - start});
-    if (start < 0 || n <= 0)
+    if (start < 0 || count <= 0 || start > highestBit)
         return 0;
-    return static_cast<int>(bitsFrom(data, highestBit, start, n));
+    return static_cast<int>(bitsFrom(data, highestBit, start, std::min(count, bitsPerWord)));
 }
 
 // Set bits grow one after the other; clear ones above the bound are ignored.
@@ -134,7 +126,8 @@ LargeInteger LargeInteger::getBitRange(int start, int count) const noexcept {
         return LargeInteger();
     int const newSize = grownSize(initialSize, wordIndex(n));
     std::size_t const used = limbCount(n - 1);
-    Limb* const out = newBuffer(bufferLimbs(newSize));
+    ResultLimbs limbs(std::max(used, bufferLimbs(newSize)));
+    Limb* const out = limbs.get();
     Limb const* const first = data + limbIndex(start);
     auto const shift = static_cast<int>(start % limbs::bitsPerLimb);
     if (shift == 0)
@@ -144,8 +137,7 @@ LargeInteger LargeInteger::getBitRange(int start, int count) const noexcept {
     // The last limb takes bits from above, and gives up those beyond the range.
     long long const done = static_cast<long long>(used - 1) * limbs::bitsPerLimb;
     out[used - 1] = bitsFrom(data, highestBit, start + done, n - done);
-    std::fill(out + used, out + bufferLimbs(newSize), Limb{0});
-    return LargeInteger(out, newSize, static_cast<int>(topBit(out, used)), false);
+    return {limbs, used, newSize, static_cast<int>(topBit(out, used)), false};
 }
 
 int LargeInteger::findNextSetBit(int start) const noexcept {

@@ -17,9 +17,9 @@ template <typename Operation>
 LargeInteger combined(Magnitude a, Magnitude b, bool flag, Operation operation) noexcept {
     if (a.top < b.top)
         std::swap(a, b);
-    Limb* const out = Representation::resultBuffer(a.count());
-    std::transform(b.value, b.value + b.count(), a.value, out, operation);
-    std::copy(a.value + b.count(), a.value + a.count(), out + b.count());
+    ResultLimbs out(a.count());
+    std::transform(b.value, b.value + b.count(), a.value, out.get(), operation);
+    std::copy(a.value + b.count(), a.value + a.count(), out.get() + b.count());
     return Representation::tight(out, a.count(), flag);
 }
 
@@ -57,8 +57,8 @@ LargeInteger& LargeInteger::operator^=(LargeInteger const& b) noexcept {
 
 LargeInteger LargeInteger::operator&(LargeInteger const& b) const noexcept {
     std::size_t const count = limbCount(std::min(highestBit, b.highestBit));
-    Limb* const out = Representation::resultBuffer(count);
-    std::transform(data, data + count, b.data, out, std::bit_and<>());
+    ResultLimbs out(count);
+    std::transform(data, data + count, b.data, out.get(), std::bit_and<>());
     return Representation::tight(out, count, negative);
 }
 

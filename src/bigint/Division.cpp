@@ -33,9 +33,7 @@ void LargeInteger::divideBy(LargeInteger const& divisor, LargeInteger& remainder
     Quotient const result(dividend, by);
     auto const quotientTop = static_cast<int>(topBit(result.quotient, result.quotientCount));
 
-    std::swap(data, remainder.data);
-    std::swap(size, remainder.size);
-    std::swap(highestBit, remainder.highestBit);
+    swapWith(remainder);
     clear();
     if (quotientTop >= 0) {
         ensureSize(wordIndex(quotientTop));

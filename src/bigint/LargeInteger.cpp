@@ -14,20 +14,6 @@ namespace {
 /// From this capacity on, a reset to zero releases the buffer.
 constexpr int releaseSize = 17;
 
-/// The limb in the buffer of a new value.
-Limb* bufferWith(Limb lowest) noexcept {
-    Limb* const buffer = newBuffer(bufferLimbs(initialSize));
-    buffer[0] = lowest;
-    std::fill(buffer + 1, buffer + bufferLimbs(initialSize), Limb{0});
-    return buffer;
-}
-
-Limb* copiedBuffer(Limb const* source, int size) noexcept {
-    Limb* const buffer = newBuffer(bufferLimbs(size));
-    std::memcpy(buffer, source, bufferLimbs(size) * sizeof(Limb));
-    return buffer;
-}
-
 /// |v| as an unsigned value: negating before widening would overflow for the most negative v.
 Limb magnitudeOf(long long v) noexcept {
     return v < 0 ? 0 - static_cast<Limb>(v) : static_cast<Limb>(v);
@@ -35,91 +21,84 @@ Limb magnitudeOf(long long v) noexcept {
 
 }  // namespace
 
-LargeInteger::LargeInteger() noexcept
-    : data(bufferWith(0)), size(initialSize), highestBit(-1), negative(false) {}
-
-// Takes over a buffer.
-LargeInteger::LargeInteger(Limb* buffer, int capacity, int bound, bool flag) noexcept
-    : data(buffer), size(capacity), highestBit(bound), negative(flag) {}
+LargeInteger::LargeInteger(ResultLimbs& limbs, std::size_t used, int capacity, int bound,
+                           bool flag) noexcept
+    : data(own.data()), size(capacity), highestBit(bound), negative(flag) {
+    std::size_t const needed = bufferLimbs(capacity);
+    used = std::min(used, needed);  // what is above is zero
+    if (needed > own.size()) {
+        room = tightRoom(capacity);
+        data = limbs.takeOver(used, needed);
+        std::fill(data + used, data + needed, Limb{0});
+    } else {
+        Representation::setOwnLimbs(*this, limbs.get(), used);
+    }
+}
 
 LargeInteger::LargeInteger(int v) noexcept : LargeInteger(static_cast<long long>(v)) {}
 
 LargeInteger::LargeInteger(unsigned int v) noexcept : LargeInteger(static_cast<long long>(v)) {}
 
 LargeInteger::LargeInteger(long long v) noexcept
-    : data(bufferWith(magnitudeOf(v))), size(initialSize),
+    : own{magnitudeOf(v)}, data(own.data()),
       highestBit(limbs::bitsPerLimb - 1 - std::countl_zero(magnitudeOf(v))), negative(v < 0) {}
 
 // Sized by the source's cached bound, where assignment goes by its exact top.
 LargeInteger::LargeInteger(LargeInteger const& source) noexcept
-    : data(copiedBuffer(source.data, tightSize(source.highestBit))),
-      size(tightSize(source.highestBit)), highestBit(source.getHighestBit()),
-      negative(source.negative) {}
-
-LargeInteger::LargeInteger(LargeInteger&& source) noexcept : LargeInteger() {
-    int const copied = tightSize(source.highestBit);
-    if (source.size == copied) {
-        source.highestBit = source.getHighestBit();
-        swapWith(source);
-    } else {
-        std::free(data);
-        data = copiedBuffer(source.data, copied);
-        size = copied;
-        highestBit = source.getHighestBit();
-        negative = source.negative;
-        source.clear();
+    : data(own.data()), size(tightSize(source.highestBit)), highestBit(source.getHighestBit()),
+      negative(source.negative) {
+    std::size_t const needed = bufferLimbs(size);
+    if (needed > own.size()) {
+        data = newBuffer(needed);
+        room = tightRoom(size);
     }
+    Representation::copyLimbs(*this, source);
 }
 
-LargeInteger::~LargeInteger() noexcept {
-    std::free(data);
+LargeInteger::LargeInteger(LargeInteger&& source) noexcept : data(own.data()) {
+    Representation::take(*this, source, source.highestBit);
 }
 
 LargeInteger& LargeInteger::operator=(LargeInteger const& source) noexcept {
     if (this == &source)
         return *this;
     highestBit = source.getHighestBit();
-    int const newSize = tightSize(highestBit);
     negative = source.negative;
-    if (bufferLimbs(newSize) == bufferLimbs(size)) {
-        std::memcpy(data, source.data, bufferLimbs(newSize) * sizeof(Limb));
-    } else {
-        std::free(data);
-        data = copiedBuffer(source.data, newSize);
-    }
-    size = newSize;
+    Representation::renew(*this, tightSize(highestBit));
+    Representation::copyLimbs(*this, source);
     return *this;
 }
 
 LargeInteger& LargeInteger::operator=(LargeInteger&& source) noexcept {
     if (this == &source)
         return *this;
-    int const top = source.getHighestBit();
-    if (source.size == tightSize(top)) {
-        swapWith(source);
-        highestBit = top;
-    } else {
-        *this = static_cast<LargeInteger const&>(source);
-    }
-    source.clear();
+    if (data != own.data())
+        freeMemory();
+    Representation::take(*this, source, source.getHighestBit());
     return *this;
 }
 
-void LargeInteger::swapWith(LargeInteger& other) noexcept {
-    std::swap(data, other.data);
-    std::swap(size, other.size);
-    std::swap(highestBit, other.highestBit);
-    std::swap(negative, other.negative);
+/// Out of line, so that the header asks for no more than a comparison.
+void LargeInteger::freeMemory() noexcept {
+    std::free(data);
+}
+
+/// Exchanges the limbs in the objects, and lets each pointer to them point into the other one.
+void LargeInteger::swapOwnLimbs(LargeInteger& other) noexcept {
+    std::swap(own, other.own);
+    if (data == own.data())
+        data = other.own.data();
+    if (other.data == other.own.data())
+        other.data = own.data();
 }
 
 void LargeInteger::clear() noexcept {
     if (size >= releaseSize) {
-        std::free(data);
-        size = initialSize;
-        data = bufferWith(0);
-    } else {
-        std::fill_n(data, limbCount(highestBit), Limb{0});
+        LargeInteger zero;
+        swapWith(zero);
+        return;
     }
+    std::fill_n(data, limbCount(highestBit), Limb{0});
     highestBit = -1;
     negative = false;
 }
@@ -128,28 +107,71 @@ void LargeInteger::ensureSize(int w) noexcept {
     int const newSize = grownSize(size, w);
     if (newSize == size)
         return;
-    data = checkedBuffer(std::realloc(data, bufferLimbs(newSize) * sizeof(Limb)));
+    Representation::makeRoom(*this, newSize);
     std::fill(data + bufferLimbs(size), data + bufferLimbs(newSize), Limb{0});
     size = newSize;
 }
 
-LargeInteger internal::Representation::sized(Limb* buffer, std::size_t used, int sizeTop,
-                                             bool flag) noexcept {
-    int const size = tightSize(sizeTop);
-    int const top = static_cast<int>(topBit(buffer, used));
-    for (std::size_t i = used; i < bufferLimbs(size); ++i)
-        buffer[i] = 0;
-    return LargeInteger(buffer, size, top, flag);
+/// The source becomes zero.
+void internal::Representation::take(LargeInteger& a, LargeInteger& source, int sizeTop) noexcept {
+    a.size = tightSize(sizeTop);
+    a.highestBit = source.getHighestBit();
+    a.room = source.room;
+    a.negative = source.negative;
+    if (source.data == source.own.data()) {
+        a.own = source.own;
+        a.data = a.own.data();
+    } else {
+        a.data = source.data;
+    }
+    source.own = {};
+    source.data = source.own.data();
+    source.size = initialSize;
+    source.highestBit = -1;
+    source.room = static_cast<std::int32_t>(source.own.size());
+    source.negative = false;
+}
+
+void internal::Representation::makeRoom(LargeInteger& a, int capacity) noexcept {
+    std::int32_t const needed = tightRoom(capacity);
+    if (a.room >= needed)
+        return;
+    std::size_t const bytes = bufferLimbs(capacity) * sizeof(Limb);
+    if (a.data != a.own.data()) {
+        a.data = checkedBuffer(std::realloc(a.data, bytes));
+    } else {
+        a.data = checkedBuffer(std::malloc(bytes));
+        std::copy(a.own.begin(), a.own.end(), a.data);
+    }
+    a.room = needed;
+}
+
+void internal::Representation::replaceBuffer(LargeInteger& a, int capacity) noexcept {
+    if (a.data != a.own.data())
+        std::free(a.data);
+    std::size_t const needed = bufferLimbs(capacity);
+    bool const fits = needed <= a.own.size();
+    a.data = fits ? a.own.data() : newBuffer(needed);
+    a.room = static_cast<std::int32_t>(fits ? a.own.size() : needed);
+}
+
+void internal::Representation::assign(LargeInteger& a, Limb const* value, int top,
+                                      int capacity) noexcept {
+    assert(tightSize(top) <= capacity);
+    renew(a, capacity);
+    a.highestBit = top;
+    if (a.data == a.own.data()) {
+        setOwnLimbs(a, value, limbCount(top));
+        return;
+    }
+    std::fill(std::copy_n(value, limbCount(top), a.data), a.data + bufferLimbs(capacity), Limb{0});
 }
 
 LargeInteger internal::Representation::copied(Limb const* value, std::size_t count, int sizeTop,
                                               bool flag) noexcept {
-    int const size = tightSize(sizeTop);
-    std::size_t const room = bufferLimbs(size);
-    count = std::min(count, room);  // what is above is zero
-    Limb* const buffer = newBuffer(room);
-    std::fill(std::copy_n(value, count, buffer), buffer + room, Limb{0});
-    return LargeInteger(buffer, size, static_cast<int>(topBit(value, count)), flag);
+    ResultLimbs limbs(std::max(count, limbCount(sizeTop)));
+    std::copy_n(value, count, limbs.get());
+    return sized(limbs, count, sizeTop, flag);
 }
 
 void internal::Representation::replaceMagnitude(LargeInteger& a, int oldTop, Limb const* value,

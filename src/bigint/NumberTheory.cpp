@@ -234,11 +234,12 @@ bool internal::Representation::raise(LargeInteger& a, LargeInteger const& e, Lar
         return true;
     }
     std::size_t const count = modulus.count();
-    Workspace workspace(4 * count + limbs::powerScratch(count, exponent.top));
+    Workspace workspace(5 * count + limbs::powerScratch(count, exponent.top));
     Limb* const b = workspace.take(count);
     Limb* const lower = workspace.take(count);
     Limb* const highest = workspace.take(count);
-    Limb* const result = workspace.take(count);
+    Limb* const result = workspace.take(2 * count);  // as far as the bound may reach
+    std::fill(result + count, result + 2 * count, Limb{0});
     loadLimbs(b, count, base);
     limbs::power(result, lower, highest, b, exponent.value, exponent.top, modulus.value, count,
                  workspace.rest());
@@ -247,11 +248,10 @@ bool internal::Representation::raise(LargeInteger& a, LargeInteger const& e, Lar
     auto const highestTop = static_cast<int>(topBit(highest, count));
     bool const isZero = lowerTop < 0 || highestTop < 0;
     int const bound = isZero ? -1 : checkedPosition(topOfProduct(lower, highest, count));
-    std::size_t const used = std::min(count, limbCount(bound));
     if (kept == Kept::asProduct)
-        become(a, result, used, bound, productCapacity({lower, lowerTop}, highestTop));
+        assign(a, result, bound, productCapacity({lower, lowerTop}, highestTop));
     else
-        become(a, result, used, static_cast<int>(topBit(result, used)),
+        assign(a, result, static_cast<int>(topBit(result, count)),
                grownSize(initialSize, wordIndex(bound + 1LL) + 1));
     return true;
 }

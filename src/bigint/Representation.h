@@ -9,30 +9,62 @@ namespace qel::internal {
 
 struct Representation {
     [[nodiscard]] static Magnitude magnitude(LargeInteger const& a) noexcept {
-        return {a.data, static_cast<int>(topBit(a.data, limbIndex(a.highestBit + 1LL) + 1))};
+        return {a.data, a.getHighestBit()};
     }
-    /// The limbs of the buffer, to be written below the cached bound.
+    /// The limbs, to be written below the cached bound.
     [[nodiscard]] static Limb* writableLimbs(LargeInteger& a) noexcept { return a.data; }
-    /// A buffer for a result of at most `count` limbs.
-    [[nodiscard]] static Limb* resultBuffer(std::size_t count) noexcept {
-        return newBuffer(std::max(count + 1, bufferLimbs(initialSize)));
+    /// Makes room for `capacity` words, which become the capacity of `a` in the end; its limbs
+    /// stay.
+    static void makeRoom(LargeInteger& a, int capacity) noexcept;
+    /// Makes room for `capacity` words, just enough; the limbs are neither kept nor filled.
+    static void replaceBuffer(LargeInteger& a, int capacity) noexcept;
+    /// Makes `capacity` the capacity; the limbs are neither kept nor filled.
+    static void renew(LargeInteger& a, int capacity) noexcept {
+        // What is left over is at most what is used and a few limbs.
+        constexpr std::int32_t spare = 8;
+        std::int32_t const needed = tightRoom(capacity);
+        if (a.room < needed || a.room / 2 > needed + spare)
+            replaceBuffer(a, capacity);
+        a.size = capacity;
     }
-    /// The value in the first `used` limbs of a result's buffer, as a copy has it: with an exact
-    /// bound and a tight capacity.
-    [[nodiscard]] static LargeInteger tight(Limb* buffer, std::size_t used, bool flag) noexcept {
-        return sized(buffer, used, checkedPosition(topBit(buffer, used)), flag);
+    /// Sets all limbs in the object. Their number is fixed, so that no call copies a few of them.
+    static void setOwnLimbs(LargeInteger& a, Limb const* value, std::size_t count) noexcept {
+        for (std::size_t i = 0; i < a.own.size(); ++i)
+            a.own[i] = i < count ? value[i] : 0;
+    }
+    /// Copies the limbs of a source that is no larger. Those in an object have a fixed number,
+    /// which needs no loop.
+    static void copyLimbs(LargeInteger& a, LargeInteger const& source) noexcept {
+        if (a.data == a.own.data() && source.data == source.own.data())
+            a.own = source.own;
+        else
+            std::memcpy(a.data, source.data, bufferLimbs(a.size) * sizeof(Limb));
+    }
+    /// Takes a value over, under the capacity of a tight copy of one with the top `sizeTop`.
+    static void take(LargeInteger& a, LargeInteger& source, int sizeTop) noexcept;
+    /// Takes limbs from elsewhere, the index of their highest set bit and a capacity; the flag
+    /// stays.
+    static void assign(LargeInteger& a, Limb const* value, int top, int capacity) noexcept;
+
+    /// The value in the first `used` limbs of a result, as a copy has it: with an exact bound and a
+    /// tight capacity.
+    [[nodiscard]] static LargeInteger tight(ResultLimbs& limbs, std::size_t used,
+                                            bool flag) noexcept {
+        return sized(limbs, used, checkedPosition(topBit(limbs.get(), used)), flag);
     }
     /// The same with the capacity of a tight copy of a value with the top `sizeTop`.
-    [[nodiscard]] static LargeInteger sized(Limb* buffer, std::size_t used, int sizeTop,
-                                            bool flag) noexcept;
+    [[nodiscard]] static LargeInteger sized(ResultLimbs& limbs, std::size_t used, int sizeTop,
+                                            bool flag) noexcept {
+        return {limbs, used, tightSize(sizeTop), static_cast<int>(topBit(limbs.get(), used)), flag};
+    }
     /// A copy of limbs that stay where they are.
     [[nodiscard]] static LargeInteger copied(Limb const* value, std::size_t count, int sizeTop,
                                              bool flag) noexcept;
 
-    /// Stores the exact top bit, given that it is at or below bound + 1: an operation that may have
+    /// Stores the exact top bit, given that it is at or below `bound`: an operation that may have
     /// carried one bit past the old top raises the bound by one and rescans.
     static void refreshHighestBit(LargeInteger& a, long long bound) noexcept {
-        a.highestBit = checkedPosition(topBit(a.data, limbIndex(bound + 1) + 1));
+        a.highestBit = checkedPosition(topBit(a.data, limbCount(bound)));
     }
     /// As ensureSize.
     static void reserve(LargeInteger& a, int w) noexcept {
@@ -70,8 +102,6 @@ struct Representation {
     [[nodiscard]] static bool raise(LargeInteger& a, LargeInteger const& e, LargeInteger const& m,
                                     Kept kept) noexcept;
 
-    static void become(LargeInteger& a, Limb const* value, std::size_t count, int bound,
-                       int capacity) noexcept;
     template <int bits>
     static void parseBits(LargeInteger& a, char const* text) noexcept;
     static void parseDecimal(LargeInteger& a, char const* text) noexcept;

@@ -148,14 +148,14 @@ LargeInteger internal::Representation::shifted(LargeInteger const& a, long long 
         return LargeInteger();
     if (distance < 0) {
         std::size_t const left = count - limbIndex(-distance);
-        Limb* const out = resultBuffer(left);
-        shiftLimbsRight(out, a.data, count, -distance);
+        ResultLimbs out(left);
+        shiftLimbsRight(out.get(), a.data, count, -distance);
         return tight(out, left, a.negative);
     }
     requireIndex(old.top + distance);
     std::size_t const used = count + limbIndex(distance) + 1;
-    Limb* const out = resultBuffer(used);
-    out[used - 1] = shiftLimbsLeft(out, a.data, count, distance);
+    ResultLimbs out(used);
+    out.get()[used - 1] = shiftLimbsLeft(out.get(), a.data, count, distance);
     return tight(out, used, a.negative);
 }
 

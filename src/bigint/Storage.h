@@ -12,6 +12,7 @@
 #include <cassert>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 
 namespace qel::internal {
 
@@ -34,6 +35,11 @@ inline Limb* newBuffer(std::size_t limbCount) noexcept {
 /// The limbs of a buffer of `size` words and the guard.
 constexpr std::size_t bufferLimbs(int size) noexcept {
     return static_cast<std::size_t>(size) / 2 + 1;
+}
+
+/// The same as a value keeps it: the limbs of a buffer that is just large enough.
+constexpr std::int32_t tightRoom(int size) noexcept {
+    return static_cast<std::int32_t>(bufferLimbs(size));
 }
 
 /// The capacity of a tight copy of a value whose top bit is at or below `bound`.
@@ -90,6 +96,40 @@ inline void loadLimbs(Limb* out, std::size_t count, Magnitude a) noexcept {
     assert(a.count() <= count);
     std::fill(std::copy_n(a.value, a.count(), out), out + count, Limb{0});
 }
+
+/// The limbs of a new value while it is computed. A short value takes a copy, a long one the limbs
+/// themselves. Not filled.
+class ResultLimbs {
+  public:
+    /// Room for `count` limbs, and for the guard above them.
+    explicit ResultLimbs(std::size_t count) noexcept
+        : room(std::max(count + 1, local.size())),
+          memory(room == local.size() ? local.data() : newBuffer(room)) {}
+
+    ~ResultLimbs() {
+        if (memory != local.data())
+            std::free(memory);
+    }
+
+    ResultLimbs(ResultLimbs const&) = delete;
+    ResultLimbs& operator=(ResultLimbs const&) = delete;
+
+    [[nodiscard]] Limb* get() noexcept { return memory; }
+
+    /// Hands out a buffer of at least `needed` limbs with the first `used` of these.
+    [[nodiscard]] Limb* takeOver(std::size_t used, std::size_t needed) noexcept {
+        if (memory != local.data() && room >= needed)
+            return std::exchange(memory, local.data());
+        Limb* const buffer = newBuffer(needed);
+        std::copy_n(memory, used, buffer);
+        return buffer;
+    }
+
+  private:
+    std::array<Limb, 6> local;  // as many as an object keeps, and a carry's
+    std::size_t room;
+    Limb* memory;
+};
 
 /// Limbs for the time of one operation: on the stack for the sizes of keys. Not filled.
 class Workspace {

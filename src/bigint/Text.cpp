@@ -228,7 +228,7 @@ void internal::Representation::parseBits(LargeInteger& a, char const* text) noex
     readBits<bits>(filler, characters);
     auto const count = static_cast<std::size_t>(filler.finish() - value);
     int const top = checkedPosition(topBit(value, count));
-    become(a, value, limbCount(top), top, capacityAfterDigits(a.size, top, bits));
+    assign(a, value, top, capacityAfterDigits(a.size, top, bits));
 }
 
 /// Reads into a plain zero. A product has a fresh buffer, so bound and capacity are those of the
@@ -252,23 +252,7 @@ void internal::Representation::parseDecimal(LargeInteger& a, char const* text) n
     limbs::multiplyLimb(value, value, count, 10);
     int const capacity = grownSize(productSize, wordIndex(topBit(value, count) + 1) + 1);
     limbs::addLimb(value, value, count, last);
-    int const top = checkedPosition(topBit(value, count));
-    become(a, value, limbCount(top), top, capacity);
-}
-
-/// Becomes the number of `count` limbs, not negative, with the given bound and capacity.
-void internal::Representation::become(LargeInteger& a, Limb const* value, std::size_t count,
-                                      int bound, int capacity) noexcept {
-    assert(tightSize(bound) <= capacity && topBit(value, count) <= bound);
-    std::size_t const room = bufferLimbs(capacity);
-    if (room != bufferLimbs(a.size)) {
-        std::free(a.data);
-        a.data = newBuffer(room);
-    }
-    std::fill(std::copy_n(value, count, a.data), a.data + room, Limb{0});
-    a.size = capacity;
-    a.highestBit = bound;
-    a.negative = false;
+    assign(a, value, checkedPosition(topBit(value, count)), capacity);
 }
 
 }  // namespace qel

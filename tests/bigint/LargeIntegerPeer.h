@@ -14,6 +14,8 @@ struct LargeIntegerPeer {
     static int size(LargeInteger const& v) { return v.size; }
     static int highestBit(LargeInteger const& v) { return v.highestBit; }
     static bool negative(LargeInteger const& v) { return v.negative; }
+    static int room(LargeInteger const& v) { return v.room; }
+    static bool keepsLimbsInside(LargeInteger const& v) { return v.data == v.own.data(); }
     static std::uint32_t word(LargeInteger const& v, int i) {
         return static_cast<std::uint32_t>(v.data[i / 2] >> (i % 2 * 32));
     }

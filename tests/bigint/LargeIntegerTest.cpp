@@ -3,11 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <csignal>
 #include <string>
 #include <sys/resource.h>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -178,6 +181,94 @@ TEST(Storage, SwapExchangesAllFourFields) {
     EXPECT_EQ(b, LargeInteger(-5));
     a.swapWith(a);
     EXPECT_EQ(a, LargeInteger(7));
+}
+
+/// A value of `bits` bits, each second one set, with a tight capacity.
+LargeInteger ofWidth(int bits) {
+    LargeInteger v;
+    for (int i = bits - 1; i >= 0; i -= 2)
+        v.setBit(i);
+    return LargeInteger(v);
+}
+
+// Nine words and the guard are the five limbs in an object.
+TEST(Storage, AValueOfUpTo288BitsIsKeptInTheObject) {
+    for (int const bits : {1, 64, 128, 129, 256, 257, 288, 289, 320, 1000}) {
+        SCOPED_TRACE(bits);
+        bool const isShort = bits <= 288;
+        LargeInteger v = ofWidth(bits);
+        EXPECT_EQ(LargeIntegerPeer::keepsLimbsInside(v), isShort);
+        LargeInteger assigned;
+        assigned = v;
+        EXPECT_EQ(LargeIntegerPeer::keepsLimbsInside(assigned), isShort);
+        EXPECT_EQ(LargeIntegerPeer::keepsLimbsInside(v | v), isShort);
+        LargeInteger const moved(std::move(v));
+        EXPECT_EQ(LargeIntegerPeer::keepsLimbsInside(moved), isShort);
+        EXPECT_EQ(moved, ofWidth(bits));
+        EXPECT_EQ(assigned, moved);
+        EXPECT_TRUE(LargeIntegerPeer::keepsLimbsInside(v));  // NOLINT(bugprone-use-after-move)
+        EXPECT_EQ(books(v), (Books{4, -1, false}));
+    }
+}
+
+TEST(Storage, GrowthMovesTheLimbsOutOfTheObject) {
+    LargeInteger v = ofWidth(200);
+    v.ensureSize(5);  // 7 < 7 is false: 10 words
+    EXPECT_EQ(books(v), (Books{10, 199, false}));
+    EXPECT_FALSE(LargeIntegerPeer::keepsLimbsInside(v));
+    EXPECT_EQ(v, ofWidth(200));
+    for (int i = 7; i < 10; ++i)
+        EXPECT_EQ(LargeIntegerPeer::word(v, i), 0U) << i;
+}
+
+TEST(Storage, SwapAndMoveMeetValuesInObjectsAndInMemory) {
+    for (int const first : {100, 288, 400}) {
+        for (int const second : {70, 289, 3000}) {
+            SCOPED_TRACE(std::to_string(first) + " and " + std::to_string(second));
+            LargeInteger a = ofWidth(first);
+            LargeInteger b = ofWidth(second);
+            a.swapWith(b);
+            EXPECT_EQ(a, ofWidth(second));
+            EXPECT_EQ(b, ofWidth(first));
+            a.setBit(3000);
+            b.setBit(3001);  // each writes to its own limbs
+            EXPECT_EQ(a, ofWidth(second) | powerOfTwo(3000));
+            EXPECT_EQ(b, ofWidth(first) | powerOfTwo(3001));
+            a = ofWidth(first);
+            b = ofWidth(second);
+            a = std::move(b);
+            EXPECT_EQ(a, ofWidth(second));
+            EXPECT_TRUE(b.isZero());  // NOLINT(bugprone-use-after-move)
+        }
+    }
+}
+
+TEST(Storage, ValuesThatAVectorMovesStayWhole) {
+    std::vector<LargeInteger> values;
+    for (int bits = 1; bits <= 600; ++bits)
+        values.push_back(ofWidth(bits));
+    std::reverse(values.begin(), values.end());
+    std::sort(values.begin(), values.end());
+    for (int bits = 1; bits <= 600; ++bits)
+        EXPECT_EQ(values[static_cast<std::size_t>(bits - 1)], ofWidth(bits)) << bits;
+}
+
+// What is left over is at most what is used and eight limbs: 3 + 8 limbs for the smallest values.
+TEST(Storage, AssignmentGivesAnOversizedBufferBack) {
+    LargeInteger const five(5);
+    for (int const limbs : {6, 22, 23, 24, 25, 1000}) {
+        LargeInteger v = ofWidth(64 * limbs - 64);
+        ASSERT_EQ(LargeIntegerPeer::room(v), limbs);
+        v = five;
+        EXPECT_EQ(LargeIntegerPeer::keepsLimbsInside(v), limbs >= 24) << limbs;
+        EXPECT_EQ(books(v), (Books{4, 2, false}));
+        EXPECT_EQ(v, five);
+        // What the buffer held before is not read again.
+        v.ensureSize(50);
+        EXPECT_EQ(v, five);
+        for (int i = 1; i < 78; ++i)
+            EXPECT_EQ(LargeIntegerPeer::word(v, i), 0U) << i;
+    }
 }
 
 TEST(Storage, ClearReleasesBuffersOf17WordsAndKeepsSmallerOnes) {

@@ -110,33 +110,23 @@ std::string const manyDigits(60000, '7');
 std::string const digitsApart = "1 2" + std::string(600, '7');
 
 IntegerRow const integerRows[] = {
-    {"zero", [](Integers&) { drop(LargeInteger()); }},
-    {"from an int", [](Integers&) { drop(LargeInteger(-5)); }},
-    {"from an unsigned int", [](Integers&) { drop(LargeInteger(5U)); }},
-    {"from a long long", [](Integers&) { drop(LargeInteger(1LL << 40)); }},
-    {"copy", [](Integers& v) { drop(LargeInteger(v.b)); }},
-    {"move", [](Integers& v) { drop(LargeInteger(std::move(v.a))); }},
-    {"assign", [](Integers& v) { v.a = v.b; }},
+    {"copy", [](Integers& v) { drop(LargeInteger(v.m)); }},
+    {"assign", [](Integers& v) { v.a = v.m * v.m; }},
     {"reserve", [](Integers& v) { v.a.ensureSize(100000); }},
-    {"clear",
-     [](Integers& v) {
-         v.a.setBit(1000);
-         v.a.clear();
-     }},
     {"set a bit", [](Integers& v) { v.a.setBit(200000); }},
     {"set a range", [](Integers& v) { v.a.setRange(199000, 3000, true); }},
     {"set an int", [](Integers& v) { v.a.setBitRangeAsInt(200000, 32, 7); }},
-    {"get a range", [](Integers& v) { drop(v.b.getBitRange(1, 64)); }},
+    {"get a range", [](Integers& v) { drop(v.m.getBitRange(1, 380)); }},
     {"insert a bit", [](Integers& v) { v.a.insertBit(200000, true); }},
     {"fill", [](Integers& v) { Random(7).fillBitsRandomly(v.a, 0, 200000); }},
     {"negation", [](Integers& v) { drop(-v.b); }},
-    {"++", [](Integers& v) { ++(v.a = v.b); }},  // a tight value grows
+    {"++", [](Integers& v) { ++(v.a = v.m * v.m); }},  // a tight value grows
     {"postfix ++", [](Integers& v) { v.a++; }},
     {"postfix --", [](Integers& v) { v.a--; }},
     {"+", [](Integers& v) { drop(v.b + v.m); }},
     {"-", [](Integers& v) { drop(v.b - v.m); }},
     {"*", [](Integers& v) { drop(v.b * v.m); }},
-    {"/", [](Integers& v) { drop(v.m / v.b); }},
+    {"/", [](Integers& v) { drop(v.m * v.m / v.b); }},
     {"%", [](Integers& v) { drop(v.m % v.b); }},
     {"&", [](Integers& v) { drop(v.b & v.m); }},
     {"|", [](Integers& v) { drop(v.b | v.m); }},
@@ -154,6 +144,7 @@ IntegerRow const integerRows[] = {
     {"divideBy",
      [](Integers& v) {
          LargeInteger remainder;
+         v.a *= v.m;
          v.a.divideBy(v.b, remainder);
      }},
     {"gcd", [](Integers& v) { drop(v.m.findGreatestCommonDivisor(v.b)); }},
@@ -170,12 +161,47 @@ IntegerRow const integerRows[] = {
      LastWords::either},
 };
 
-/// The workspace of the second width does not fit on the stack.
+/// Operands of the first width need memory, the workspace of the second does not fit on the stack.
 TEST(OutOfMemory, EveryIntegerOperationEndsTheProcess) {
-    for (int const bits : {90, 60000}) {
+    for (int const bits : {450, 60000}) {
         for (IntegerRow const& row : integerRows)
             expectTheEnd(
                 row.name, row.promised, [bits] { return Integers(bits); }, row.operation);
+    }
+}
+
+/// Those whose results have a capacity of at most nine words.
+IntegerRow const shortRows[] = {
+    {"zero", [](Integers&) { drop(LargeInteger()); }},
+    {"from an int", [](Integers&) { drop(LargeInteger(-5)); }},
+    {"from an unsigned int", [](Integers&) { drop(LargeInteger(5U)); }},
+    {"from a long long", [](Integers&) { drop(LargeInteger(1LL << 40)); }},
+    {"copy", [](Integers& v) { drop(LargeInteger(v.b)); }},
+    {"assign", [](Integers& v) { v.a = v.b; }},
+    {"move",
+     [](Integers& v) {
+         LargeInteger moved(std::move(v.a));
+         v.a = std::move(moved);
+     }},
+    {"swap", [](Integers& v) { v.a.swapWith(v.sameAsM); }},
+    {"clear", [](Integers& v) { v.a.clear(); }},
+    {"+", [](Integers& v) { drop(v.b + v.m); }},
+    {"-", [](Integers& v) { drop(v.b - v.m); }},
+    {"*", [](Integers& v) { drop(v.b * v.m); }},
+    {"/", [](Integers& v) { drop(v.m / v.b); }},
+    {"%", [](Integers& v) { drop(v.m % v.b); }},
+    {"<<", [](Integers& v) { drop(v.b << 60); }},
+    {"gcd", [](Integers& v) { drop(v.m.findGreatestCommonDivisor(v.b)); }},
+    {"inverse", [](Integers& v) { (v.a = v.m - LargeInteger(2)).inverseModulo(v.m); }},
+    {"verdict", [](Integers& v) { drop(PrimesNumber::isProbablyPrime(v.m, 5)); }},
+};
+
+TEST(OutOfMemory, ShortIntegersNeedNone) {
+    for (IntegerRow const& row : shortRows) {
+        Integers operands(110);
+        faults::failAllocation(0);
+        row.operation(operands);
+        EXPECT_EQ(faults::allocations(), 0) << row.name;
     }
 }
 
@@ -188,15 +214,15 @@ IntegerRow const heavyRows[] = {
     {"search",
      [](Integers&) {
          int const seeds[] = {1, 2};
-         drop(PrimesNumber::createProbablePrime(64, 30, seeds, 2));
+         drop(PrimesNumber::createProbablePrime(320, 30, seeds, 2));
      }},
-    {"best divisor", [](Integers& v) { drop(RSAKey::findBestCommonDivisor(v.b, v.m)); }},
+    {"best divisor", [](Integers& v) { drop(RSAKey::findBestCommonDivisor(v.b * v.b, v.m)); }},
     {"keys",
      [](Integers&) {
          int const seeds[] = {1, 2};
          RSAKey first;
          RSAKey second;
-         RSAKey::createKeyPair(first, second, 96, seeds, 2);
+         RSAKey::createKeyPair(first, second, 640, seeds, 2);
      }},
     {"key from text", [](Integers&) { drop(RSAKey("3,12345678901234567890123456789012345")); },
      LastWords::either},
@@ -210,7 +236,7 @@ IntegerRow const heavyRows[] = {
 };
 
 TEST(OutOfMemory, EveryOperationOfPrimesAndKeysEndsTheProcess) {
-    for (int const bits : {90, 2100}) {
+    for (int const bits : {450, 2100}) {
         for (IntegerRow const& row : heavyRows)
             expectTheEnd(
                 row.name, row.promised, [bits] { return Integers(bits); }, row.operation);

@@ -16,8 +16,6 @@ namespace qel::limbs {
 namespace {
 
 using adx::Row;
-using adx::Sum;
-using adx::sumOf;
 
 constexpr std::size_t mostInSequence = 16;
 constexpr std::size_t kindCount = mostInSequence + 1 + 8;
@@ -133,15 +131,6 @@ void squareRowsAdx(Limb* out, Limb const* a, std::size_t count) noexcept {
     adx::doubleAndAddSquares(out, a, count);
 }
 
-/// The carries of a reduction's rows, left in the lower half of t, added to the upper half, and the
-/// modulus subtracted where it fits.
-[[gnu::noinline]] void finishReduction(Limb* out, Limb const* t, Limb const* modulus,
-                                       std::size_t count) noexcept {
-    Limb const carry = sumOf<Sum::plus>(out, t + count, t, count);
-    if (carry != 0 || compare(out, modulus, count) >= 0)
-        sumOf<Sum::minus>(out, out, modulus, count);
-}
-
 // As the portable one.
 template <std::size_t kind>
 struct Reduce {
@@ -162,8 +151,8 @@ void reduceAdx(Limb* out, Limb* t, Limb const* modulus, std::size_t count,
 
 }  // namespace
 
-Kernels const adxKernels = {sumOf<Sum::plus>, sumOf<Sum::minus>, multiplyLimbAdx, addMultiplyAdx,
-                            multiplyRowsAdx,  squareRowsAdx,     reduceAdx};
+Kernels const adxKernels = {multiplyLimbAdx, addMultiplyAdx, multiplyRowsAdx, squareRowsAdx,
+                            reduceAdx};
 
 }  // namespace qel::limbs
 

@@ -60,52 +60,6 @@ template <Row kind, std::size_t head, bool looped>
     return carry;
 }
 
-enum class Sum { plus, minus };
-
-/// out = a + b or a - b; returns the carry or borrow.
-template <Sum sum>
-Limb sumOf(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept {
-    std::size_t steps = count % 4;
-    std::size_t const blocks = count / 4;
-    Limb limb;
-    asm volatile(
-        ".macro qel_sums count\n\t"
-        ".set qel_at, 0\n\t"
-        ".rept \\count\n\t"
-        "movq qel_at(%[a]), %[limb]\n\t"
-        ".if %c[plus]\n\t"
-        "adcq qel_at(%[b]), %[limb]\n\t"
-        ".else\n\t"
-        "sbbq qel_at(%[b]), %[limb]\n\t"
-        ".endif\n\t"
-        "movq %[limb], qel_at(%[out])\n\t"
-        ".set qel_at, qel_at + 8\n\t"
-        ".endr\n\t"
-        "leaq qel_at(%[a]), %[a]\n\t"
-        "leaq qel_at(%[b]), %[b]\n\t"
-        "leaq qel_at(%[out]), %[out]\n\t"
-        "decq %[steps]\n\t"
-        ".endm\n\t"
-        "clc\n\t"
-        "jrcxz 2f\n"
-        "1:\n\t"
-        "qel_sums 1\n\t"
-        "jnz 1b\n"
-        "2:\n\t"
-        "movq %[blocks], %[steps]\n\t"
-        "jrcxz 4f\n"
-        "3:\n\t"
-        "qel_sums 4\n\t"
-        "jnz 3b\n"
-        "4:\n\t"
-        "sbbq %[limb], %[limb]\n\t"
-        ".purgem qel_sums"
-        : [limb] "=&r"(limb), [out] "+&r"(out), [a] "+&r"(a), [b] "+&r"(b), [steps] "+&c"(steps)
-        : [blocks] "r"(blocks), [plus] "n"(sum == Sum::plus)
-        : "cc", "memory");
-    return 0 - limb;
-}
-
 /// out[0, 2 * count) = 2 * out + the squares of the limbs of a, for an out below half its range:
 /// adcx carries what doubling shifts out, adox the sums with the squares.
 inline void doubleAndAddSquares(Limb* out, Limb const* a, std::size_t count) noexcept {

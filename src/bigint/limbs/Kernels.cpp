@@ -77,14 +77,6 @@ void useLaneKernels(LaneKernels const* variant) noexcept {
     chosenLanes.store(variant, std::memory_order_relaxed);
 }
 
-Limb add(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept {
-    return kernels().add(out, a, b, count);
-}
-
-Limb subtract(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept {
-    return kernels().subtract(out, a, b, count);
-}
-
 Limb multiplyLimb(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept {
     return kernels().multiplyLimb(out, a, count, b);
 }

@@ -9,10 +9,6 @@
 namespace qel::limbs {
 
 struct Kernels {
-    /// out = a + b; returns the carry.
-    Limb (*add)(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept;
-    /// out = a - b; returns the borrow.
-    Limb (*subtract)(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept;
     /// out = a * b; returns the highest limb of the product.
     Limb (*multiplyLimb)(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept;
     /// out += a * b; returns the carry.
@@ -27,6 +23,15 @@ struct Kernels {
     void (*reduce)(Limb* out, Limb* t, Limb const* modulus, std::size_t count,
                    Limb negatedInverse) noexcept;
 };
+
+/// add and subtract as the compiler makes them. x86-64 has better, which needs no choice: add with
+/// carry is in every such processor.
+Limb addPortable(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept;
+Limb subtractPortable(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept;
+
+/// The end of every variant's reduction: the carries of its rows, left in the lower half of t,
+/// added to the upper half, and the modulus subtracted where it fits.
+void finishReduction(Limb* out, Limb const* t, Limb const* modulus, std::size_t count) noexcept;
 
 /// 64-by-64-bit products as the compiler makes them.
 extern Kernels const portableKernels;

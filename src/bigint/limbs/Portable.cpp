@@ -5,26 +5,6 @@ namespace qel::limbs {
 
 namespace {
 
-Limb addPortable(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept {
-    Limb carry = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        DoubleLimb const sum = DoubleLimb{a[i]} + b[i] + carry;
-        out[i] = static_cast<Limb>(sum);
-        carry = static_cast<Limb>(sum >> bitsPerLimb);
-    }
-    return carry;
-}
-
-Limb subtractPortable(Limb* out, Limb const* a, Limb const* b, std::size_t count) noexcept {
-    Limb borrow = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        DoubleLimb const difference = DoubleLimb{a[i]} - b[i] - borrow;
-        out[i] = static_cast<Limb>(difference);
-        borrow = static_cast<Limb>(difference >> bitsPerLimb) & 1;
-    }
-    return borrow;
-}
-
 Limb multiplyLimbPortable(Limb* out, Limb const* a, std::size_t count, Limb b) noexcept {
     Limb carry = 0;
     for (std::size_t i = 0; i < count; ++i) {
@@ -92,15 +72,12 @@ void reducePortable(Limb* out, Limb* t, Limb const* modulus, std::size_t count,
                     Limb negatedInverse) noexcept {
     for (std::size_t i = 0; i < count; ++i)
         t[i] = addMultiplyPortable(t + i, modulus, count, t[i] * negatedInverse);
-    Limb const carry = addPortable(out, t + count, t, count);
-    if (carry != 0 || compare(out, modulus, count) >= 0)
-        subtractPortable(out, out, modulus, count);
+    finishReduction(out, t, modulus, count);
 }
 
 }  // namespace
 
-Kernels const portableKernels = {addPortable,         subtractPortable,     multiplyLimbPortable,
-                                 addMultiplyPortable, multiplyRowsPortable, squareRowsPortable,
-                                 reducePortable};
+Kernels const portableKernels = {multiplyLimbPortable, addMultiplyPortable, multiplyRowsPortable,
+                                 squareRowsPortable, reducePortable};
 
 }  // namespace qel::limbs
