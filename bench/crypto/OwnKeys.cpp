@@ -9,7 +9,6 @@ namespace qel::bench {
 
 namespace {
 
-/// Null is the library's own choice.
 struct Path {
     char const* name;
     limbs::Kernels const* kernels;
@@ -17,13 +16,14 @@ struct Path {
     bool available;
 };
 
-Path const ownChoice = {"qel", nullptr, nullptr, true};
+// The library's own choice, made once: null would have it ask the processor anew, each time.
+Path const ownChoice = {"qel", &limbs::kernels(), &limbs::laneKernels(), true};
 
 Path const paths[] = {
     ownChoice,
     {"qel portable", &limbs::portableKernels, &limbs::portableLanes, true},
     {"qel adx", &limbs::adxKernels, &limbs::portableLanes, limbs::hasAdx()},
-    {"qel batch of eight", nullptr, &limbs::ifmaLanes, limbs::hasIfma()},
+    {"qel batch of eight", &limbs::kernels(), &limbs::ifmaLanes, limbs::hasIfma()},
 };
 
 KeyTexts createKeys(Path const& path, int bits, SeedTable const& seeds) {

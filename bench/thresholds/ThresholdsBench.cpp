@@ -4,6 +4,7 @@
 #include "bigint/limbs/DivideByHalves.h"
 #include "bigint/limbs/DivideByReciprocal.h"
 #include "bigint/limbs/Kernels.h"
+#include "bigint/limbs/Montgomery.h"
 #include "bigint/limbs/MultiplyByParts.h"
 #include "bigint/limbs/Thresholds.h"
 #include "bigint/limbs/Transform.h"
@@ -48,6 +49,7 @@ struct Operands {
     std::vector<Limb> out;
     std::vector<Limb> scratch;
     std::vector<Limb> used;
+    Limb inverse = 12345;
 };
 
 using Algorithm = void (*)(Operands&, std::size_t n);
@@ -114,6 +116,16 @@ Threshold const thresholds[] = {
          divideByReciprocal(x.out.data(), x.dividend(2 * n), 2 * n, x.b.data(), n,
                             x.scratch.data());
      }},
+    {"reduceSplit", reduceSplit, "row by row",
+     [](Operands& x, std::size_t n) {
+         kernels().reduce(x.out.data(), x.dividend(2 * n), x.b.data(), n, x.inverse);
+     },
+     "halves",
+     [](Operands& x, std::size_t n) {
+         reduceByHalves(x.out.data(), x.dividend(2 * n), x.b.data(), n, x.inverse,
+                        x.scratch.data());
+     },
+     reduceSplit},
     {"reciprocalNewton", reciprocalNewton, "quotient",
      [](Operands& x, std::size_t n) {
          reciprocalByDivision(x.out.data(), x.b.data(), n, x.scratch.data());

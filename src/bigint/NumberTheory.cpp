@@ -226,16 +226,7 @@ bool internal::Representation::invert(LargeInteger& a, Magnitude value,
 }
 
 void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) noexcept {
-    Magnitude const modulus = Representation::magnitude(m);
-    auto const raise = [&](LargeInteger const& base, LargeInteger const& exponent) {
-        bool const isOrdinary = !base.isZero() && !base.isNegative() && !exponent.isZero();
-        if (isOrdinary)
-            Representation::raise(*this, Representation::magnitude(base),
-                                  Representation::magnitude(exponent), modulus);
-        return isOrdinary;
-    };
-    bool const isReduced = compareAbsolute(m) < 0 && e.compareAbsolute(m) < 0;
-    if (isReduced ? raise(*this, e) : raise(*this % m, e % m))
+    if (Representation::raise(*this, e, m, Representation::Kept::asProduct))
         return;
     // A base or an exponent of zero, and the signs that squaring in place gives a negative base. m
     // may be this object.
@@ -257,25 +248,43 @@ void LargeInteger::exponentModulo(LargeInteger const& e, LargeInteger const& m) 
     }
 }
 
-/// Becomes base^exponent modulo the modulus; base and exponent are below it, and neither is zero.
-///
-/// Bound and capacity are those of the last product before its reduction.
-void internal::Representation::raise(LargeInteger& a, Magnitude base, Magnitude exponent,
-                                     Magnitude modulus) noexcept {
+/// Becomes a^e modulo m; false, and unchanged, where the documented steps are wanted.
+bool internal::Representation::raise(LargeInteger& a, LargeInteger const& e, LargeInteger const& m,
+                                     Kept kept) noexcept {
+    Magnitude const base = magnitude(a);
+    Magnitude const exponent = magnitude(e);
+    Magnitude const modulus = magnitude(m);
+    if (a.negative || base.top < 0 || exponent.top < 0)
+        return false;
+    if (compareMagnitudes(base, modulus) >= 0 || compareMagnitudes(exponent, modulus) >= 0) {
+        LargeInteger reduced = a % m;
+        if (!raise(reduced, e % m, m, kept))
+            return false;
+        a.swapWith(reduced);
+        return true;
+    }
     std::size_t const count = modulus.count();
-    Workspace workspace(4 * count + limbs::powerScratch(count, exponent.top));
+    Workspace workspace(5 * count + limbs::powerScratch(count, exponent.top));
     Limb* const b = workspace.take(count);
     Limb* const lower = workspace.take(count);
     Limb* const highest = workspace.take(count);
-    Limb* const result = workspace.take(count);
+    Limb* const result = workspace.take(2 * count);  // as far as the bound may reach
+    std::fill(result + count, result + 2 * count, Limb{0});
     loadLimbs(b, count, base);
     limbs::power(result, lower, highest, b, exponent.value, exponent.top, modulus.value, count,
                  workspace.rest());
 
-    a = copied(lower, count, static_cast<int>(topBit(lower, count)), false);
-    a *= copied(highest, count, static_cast<int>(topBit(highest, count)), false);
-    if (!a.isZero())
-        replaceMagnitude(a, a.highestBit, result, count);
+    auto const lowerTop = static_cast<int>(topBit(lower, count));
+    auto const highestTop = static_cast<int>(topBit(highest, count));
+    bool const isZero = lowerTop < 0 || highestTop < 0;
+    int const bound = isZero ? -1 : checkedPosition(topOfProduct(lower, highest, count));
+    if (kept == Kept::asProduct) {
+        become(a, result, limbCount(bound), bound, productCapacity({lower, lowerTop}, highestTop));
+    } else {
+        auto const top = static_cast<int>(topBit(result, count));
+        become(a, result, limbCount(top), top, grownSize(initialSize, wordIndex(bound + 1LL) + 1));
+    }
+    return true;
 }
 
 }  // namespace qel

@@ -11,6 +11,8 @@ struct Representation {
     [[nodiscard]] static Magnitude magnitude(LargeInteger const& a) noexcept {
         return {a.data, a.getHighestBit()};
     }
+    /// The limbs, to be written below the cached bound.
+    [[nodiscard]] static Limb* writableLimbs(LargeInteger& a) noexcept { return a.data; }
     /// Makes room for `capacity` words, which become the capacity of `a` in the end; its limbs
     /// stay.
     static void makeRoom(LargeInteger& a, int capacity) noexcept;
@@ -94,8 +96,11 @@ struct Representation {
     static void reduceToDivisor(LargeInteger& a, LargeInteger& b) noexcept;
     [[nodiscard]] static LargeInteger gcdOfMagnitudes(Magnitude first, Magnitude second) noexcept;
     [[nodiscard]] static bool invert(LargeInteger& a, Magnitude value, Magnitude divisor) noexcept;
-    static void raise(LargeInteger& a, Magnitude base, Magnitude exponent,
-                      Magnitude modulus) noexcept;
+    /// What a power keeps: bound and capacity of its last product, or those of a new zero that it
+    /// was then added to.
+    enum class Kept { asProduct, asSum };
+    [[nodiscard]] static bool raise(LargeInteger& a, LargeInteger const& e, LargeInteger const& m,
+                                    Kept kept) noexcept;
 
     static void becomeQuotient(LargeInteger& a, int emptySize, Limb const* quotient,
                                int top) noexcept;

@@ -118,8 +118,9 @@ class CandidateWalk {
                 break;
             next += static_cast<std::size_t>(passed);
             // Last, though documented to come first: it hardly ever says anything about a number
-            // that passes.
-            if (!isStruckByDivisors(candidates[next], count)) {
+            // that passes, and nothing about a prime.
+            if (passingProves(candidates[next], count, witnessCount)
+                || !isStruckByDivisors(candidates[next], count)) {
                 found = candidates[next];
                 return true;
             }

@@ -31,11 +31,10 @@ bool passesTrialDivision(int value) noexcept {
 
 /// Whether a small factor tells what the test would say: one up to 23, as documented, or a larger
 /// one that refuses a witness. Looking at the factor r takes the same time for each, and spares one
-/// test in r. The limit is measured.
+/// test in r, whose time grows faster. The limit is measured.
 bool isStruck(limbs::Limb* n, std::size_t count, int witnessCount, limbs::Limb* scratch) noexcept {
-    constexpr limbs::Limb limitPerLimb = 256;
     n[0] -= 1;
-    Screening screening(n, count, witnessCount, limitPerLimb * count, scratch);
+    Screening screening(n, count, witnessCount, 16 * count * count, scratch);
     n[0] += 1;
     return screening.window(1)[0];
 }

@@ -3,14 +3,34 @@
 
 #include "qel/PrimesNumber.h"
 
+#include "../bigint/Representation.h"
+
 #include <cassert>
 
 namespace qel {
 
+using namespace internal;
+
 namespace {
 
+using limbs::DoubleLimb;
+using limbs::Limb;
+
 constexpr int witnessesPerPrime = 30;
-constexpr int largestListedExponent = 65537;
+
+/// Those of the listed numbers 2^k + 1, k from 1 to 16, that can be the first one without a common
+/// factor. For an odd divisor d of k, 2^(k/d) + 1 divides 2^k + 1 and stands before it: where it
+/// has a factor in common, so has 2^k + 1. This leaves the powers of two for k.
+constexpr int listedPrimes[] = {3, 5, 17, 257, 65537};
+
+/// The magnitude modulo 2^64 - 1, of which all the listed primes are factors.
+Limb foldedLimbs(Magnitude a) noexcept {
+    DoubleLimb sum = 0;
+    for (std::size_t i = 0; i < a.count(); ++i)
+        sum += a.value[i];
+    sum = static_cast<Limb>(sum) + (sum >> limbs::bitsPerLimb);
+    return static_cast<Limb>(sum) + limbs::upperLimb(sum);
+}
 
 bool isCoprimeToBoth(LargeInteger const& candidate, LargeInteger const& first,
                      LargeInteger const& second) noexcept {
@@ -46,6 +66,12 @@ bool RSAKey::operator!=(RSAKey const& other) const noexcept {
 }
 
 bool RSAKey::applyToValue(LargeInteger& value) const noexcept {
+    // The value itself is the one digit.
+    if (value.compareAbsolute(modulus) < 0
+        && Representation::raise(value, exponent, modulus, Representation::Kept::asSum)) {
+        value.setNegative(modulus.isNegative());
+        return true;
+    }
     if (exponent.isZero() || modulus.isZero() || value <= LargeInteger(0)) {
         value.clear();
         return false;
@@ -66,10 +92,13 @@ bool RSAKey::applyToValue(LargeInteger& value) const noexcept {
 LargeInteger RSAKey::findBestCommonDivisor(LargeInteger const& first,
                                            LargeInteger const& second) noexcept {
     assert(!first.isZero() && !second.isZero() && "findBestCommonDivisor: nothing is coprime to 0");
-    for (int power = 2; power < largestListedExponent; power *= 2) {
-        LargeInteger const candidate(power | 1);
-        if (isCoprimeToBoth(candidate, first, second))
-            return LargeInteger(candidate);
+    if (!first.isNegative() && !second.isNegative()) {
+        Limb const x = foldedLimbs(Representation::magnitude(first));
+        Limb const y = foldedLimbs(Representation::magnitude(second));
+        for (int const prime : listedPrimes) {
+            if (x % static_cast<Limb>(prime) != 0 && y % static_cast<Limb>(prime) != 0)
+                return LargeInteger(prime);
+        }
     }
     LargeInteger candidate(4);
     while (!isCoprimeToBoth(candidate, first, second))

@@ -53,9 +53,19 @@ bool testsEight(std::size_t count) noexcept {
     return limbs::laneKernels().pays && count >= fewestLimbs && count <= limbs::longestStrongTest;
 }
 
+/// A number below 2^64 that passes with the first twelve primes is one (Sorenson and Webster,
+/// "Strong pseudoprimes to twelve prime bases", 2017), and as such passes with all witnesses that
+/// it does not divide: at least those below 2048.
+constexpr int decidingWitnesses = 11;
+constexpr int witnessesBelow2048 = 308;
+static_assert(smallPrimes[decidingWitnesses] == 37 && smallPrimes[witnessesBelow2048] < 2048);
+
 template <typename Test>
-bool passesAll(Test test, OddPrimes witnesses, int witnessCount) noexcept {
-    for (; witnessCount > 0; --witnessCount) {
+bool passesAll(Test test, int witnessCount, bool isDecided) noexcept {
+    OddPrimes witnesses;
+    for (int passed = 0; passed < witnessCount; ++passed) {
+        if (isDecided && passed == decidingWitnesses && test.passes(2))
+            return true;
         if (!test.passes(witnesses.next()))
             return false;
     }
@@ -63,9 +73,15 @@ bool passesAll(Test test, OddPrimes witnesses, int witnessCount) noexcept {
 }
 
 bool passesOneByOne(Limb const* n, std::size_t count, int witnessCount, Limb* scratch) noexcept {
+    using limbs::DoubleLimb;
+    bool const isDecided = passingProves(n, count, witnessCount);
     count = limbs::significant(n, count);
-    return count == 1 ? passesAll(limbs::StrongLimbTest(n[0]), {}, witnessCount)
-                      : passesAll(limbs::StrongTest(n, count, scratch), {}, witnessCount);
+    if (count == 1)
+        return passesAll(limbs::ShortStrongTest<Limb>(n[0]), witnessCount, isDecided);
+    if (count == 2)
+        return passesAll(limbs::ShortStrongTest<DoubleLimb>(limbs::load<DoubleLimb>(n)),
+                         witnessCount, false);
+    return passesAll(limbs::StrongTest(n, count, scratch), witnessCount, false);
 }
 
 /// Lanes left over repeat the last witness.
@@ -112,9 +128,17 @@ std::size_t witnessScratch(std::size_t count) noexcept {
     return testsEight(count) ? limbs::strongTestsScratch(count) : limbs::strongTestScratch(count);
 }
 
+bool passingProves(Limb const* n, std::size_t count, int witnessCount) noexcept {
+    return limbs::significant(n, count) == 1 && witnessCount > decidingWitnesses
+           && witnessCount <= witnessesBelow2048;
+}
+
 int indexOfPassing(std::span<Limb const* const> numbers, std::size_t count, int witnessCount,
                    Limb* scratch) noexcept {
-    bool const byEight = testsEight(count) && witnessCount > 0;
+    bool const areLimbs = std::all_of(numbers.begin(), numbers.end(), [count](Limb const* n) {
+        return limbs::significant(n, count) == 1;
+    });
+    bool const byEight = testsEight(count) && witnessCount > 0 && !areLimbs;
     if (byEight && numbers.size() > 1)
         return indexByEight(numbers, count, witnessCount, scratch);
     for (std::size_t k = 0; k < numbers.size(); ++k) {

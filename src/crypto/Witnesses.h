@@ -22,4 +22,8 @@ inline constexpr std::size_t mostNumbersAtOnce = limbs::lanes;
                                  int witnessCount, limbs::Limb* scratch) noexcept;
 std::size_t witnessScratch(std::size_t count) noexcept;
 
+/// Whether a number that passes is certainly a prime.
+[[nodiscard]] bool passingProves(limbs::Limb const* n, std::size_t count,
+                                 int witnessCount) noexcept;
+
 }  // namespace qel::internal

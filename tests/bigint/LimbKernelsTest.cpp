@@ -296,11 +296,11 @@ TEST(LimbVariants, TheOneInUseIsAskedForAllThatHasVariants) {
     Limb quotient = 0;
     limbs::divideNormalized(&quotient, out.data(), 4, divisor.data(), 3);
     EXPECT_EQ(asked, 4);
-    Limbs const odd{3, 1};
-    Limbs result(6);
-    Limbs scratch(limbs::powerScratch(2, 0));
-    limbs::power(result.data(), result.data() + 2, result.data() + 4, a.data(), a.data(), 0,
-                 odd.data(), 2, scratch.data());
+    Limbs const odd{3, 0, 1};
+    Limbs result(9);
+    Limbs scratch(limbs::powerScratch(3, 0));
+    limbs::power(result.data(), result.data() + 3, result.data() + 6, a.data(), a.data(), 0,
+                 odd.data(), 3, scratch.data());
     EXPECT_EQ(asked, 7);
 }
 

@@ -136,6 +136,42 @@ TEST(LimbReduce, OfTheLargestAndOfMultiplesOfTheModulus) {
     });
 }
 
+void expectReducedByHalves(Limbs const& t, Limbs const& modulus) {
+    std::size_t const count = modulus.size();
+    Limb const inverse = limbs::negatedInverse(modulus[0]);
+    Limbs expected(count);
+    Limbs used = t;
+    limbs::portableKernels.reduce(expected.data(), used.data(), modulus.data(), count, inverse);
+    Fenced out(count);
+    Fenced inT(t);
+    Fenced scratch(limbs::reduceByHalvesScratch(count));
+    limbs::reduceByHalves(out.data(), inT.data(), modulus.data(), count, inverse, scratch.data());
+    ASSERT_TRUE(out.holds(expected)) << input("t", t, "modulus", modulus);
+    ASSERT_TRUE(inT.intact() && scratch.intact()) << input("t", t, "modulus", modulus);
+}
+
+// The largest t and multiples of the modulus carry through all limbs.
+TEST(LimbReduceByHalves, AgreesWithReductionsRowByRow) {
+    Operands operands(75);
+    std::vector<std::size_t> lengths = {2, 3, 5};
+    for (std::size_t const split : {limbs::reduceSplit, 2 * limbs::reduceSplit})
+        lengths.insert(lengths.end(), {split - 1, split, split + 1});
+    lengths.push_back(4 * limbs::reduceSplit + 3);
+    onModuli(76, lengths, [&](Limbs const& modulus) {
+        for (Pattern const pattern : patterns)
+            expectReducedByHalves(dividend(operands, pattern, modulus), modulus);
+        Limbs largest(modulus.size(), allOnes);
+        Limbs const high = before(modulus);
+        largest.insert(largest.end(), high.begin(), high.end());
+        expectReducedByHalves(largest, modulus);
+        for (Limb const k : {Limb{0}, Limb{1}, allOnes}) {
+            Limbs multiple = product(modulus, {k});
+            multiple.resize(2 * modulus.size());
+            expectReducedByHalves(multiple, modulus);
+        }
+    });
+}
+
 // --- powers -------------------------------------------------------------------------------------
 
 plain::LargeInteger plainOf(Limbs const& a) {
@@ -232,7 +268,8 @@ TEST(LimbPower, OfOneBitAndOfAllBitsAtEachWindowWidth) {
     Operands operands(100);
     for (long long const top : tops) {
         for (Limbs const& modulus :
-             {Limbs{3}, Limbs{topBit - 1}, Limbs{allOnes}, Limbs{1, topBit}, Limbs{allOnes, 1}}) {
+             {Limbs{3}, Limbs{topBit - 1}, Limbs{allOnes}, Limbs{1, topBit}, Limbs{allOnes, 1},
+              Limbs{allOnes, allOnes}, Limbs{1, 0, topBit}, Limbs{allOnes, 5, 1}}) {
             for (Limbs const& e : {oneBit(top), allBits(top)}) {
                 expectPower(anyBelow(operands, modulus), e, modulus);
                 expectPower(before(modulus), e, modulus);
@@ -252,12 +289,26 @@ TEST(LimbPower, OfAnyExponentAtEachWindowWidth) {
             Limbs const mask = allBits(top);
             for (std::size_t i = 0; i < e.size(); ++i)
                 e[i] |= lower[i] & mask[i];
-            Limbs const modulus{operands.limb() | 1, operands.limb() | topBit};
+            Limbs modulus{operands.limb() | 1, operands.limb() | topBit};
+            expectPower(anyBelow(operands, modulus), e, modulus);
+            modulus.push_back(1 + operands.below(100));
             expectPower(anyBelow(operands, modulus), e, modulus);
         }
         if (HasFailure())
             return;
     }
+}
+
+// Up to two limbs they are computed in registers.
+TEST(LimbPower, OfNumbersOfAllPatternsModuloShortOnes) {
+    Operands operands(106);
+    onModuli(107, {1, 2, 3}, [&](Limbs const& modulus) {
+        for (Pattern const pattern : patterns) {
+            Limbs const base = atMost(operands.make(pattern, modulus.size()), modulus);
+            for (Limb const e : {1U, 2U, 3U, 5U, 0x10001U})
+                expectPower(base, {e}, modulus);
+        }
+    });
 }
 
 // One window alone fills one bucket; the others must be joined as if they were 1.
@@ -334,6 +385,19 @@ TEST(LimbPower, ModuloNumbersWhoseProductsAreTakenByHalves) {
                  modulus[0] -= 1;
                  expectPower(anyBelow(operands, modulus), {0b1'0110'1111}, modulus);
              });
+}
+
+TEST(LimbPower, ModuloNumbersWhoseProductsAreReducedByHalves) {
+    Operands operands(108);
+    for (std::size_t const count :
+         {limbs::reduceSplit - 1, limbs::reduceSplit, limbs::reduceSplit + 1}) {
+        Limbs modulus = operands.make(Pattern::uniform, count);
+        modulus.back() |= 1;
+        for (Limb const lowest : {modulus[0] | 1, modulus[0] & ~Limb{1}}) {
+            modulus[0] = lowest;
+            expectPower(anyBelow(operands, modulus), {0b1011}, modulus);
+        }
+    }
 }
 
 }  // namespace

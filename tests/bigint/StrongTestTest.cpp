@@ -32,8 +32,11 @@ bool plainVerdict(LargeInteger const& n, LargeInteger const& witness) {
 
 /// As the test of numbers of that length.
 bool passes(Limbs const& n, Limb witness) {
+    using namespace qel::limbs;
     if (n.size() == 1)
-        return qel::limbs::StrongLimbTest(n[0]).passes(witness);
+        return ShortStrongTest<Limb>(n[0]).passes(witness);
+    if (n.size() == 2)
+        return ShortStrongTest<DoubleLimb>(load<DoubleLimb>(n.data())).passes(witness);
     Limbs scratch(qel::limbs::strongTestScratch(n.size()));
     return qel::limbs::StrongTest(n.data(), n.size(), scratch.data()).passes(witness);
 }
@@ -42,12 +45,13 @@ void expectPlainVerdicts(Limbs const& n, std::vector<Limb> const& witnesses) {
     std::vector<bool> expected;
     for (Limb const witness : witnesses)
         expected.push_back(plainVerdict(integer(n), integer({witness})));
-    if (n.size() == 1) {
+    if (n.size() <= 2) {
         for (std::size_t i = 0; i < witnesses.size(); ++i)
             ASSERT_EQ(passes(n, witnesses[i]), expected[i])
-                << "n = " << n[0] << " witness " << witnesses[i];
-        return;
+                << "n = " << text(n) << " witness " << witnesses[i];
     }
+    if (n.size() == 1)
+        return;
     std::size_t const needed = qel::limbs::strongTestScratch(n.size());
     for (Variant const& variant : variants()) {
         Using const use(variant);

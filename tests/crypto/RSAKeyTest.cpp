@@ -2,6 +2,8 @@
 // vector files.
 #include "qel/RSAKey.h"
 
+#include "qel/Random.h"
+
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -9,6 +11,7 @@
 namespace {
 
 using qel::LargeInteger;
+using qel::Random;
 using qel::RSAKey;
 
 struct Pair {
@@ -101,6 +104,42 @@ TEST(KeyExponent, IsSearchedFromFourWhenTheListIsUsedUp) {
     LargeInteger const all(0xFFFFFFFFU);
     EXPECT_EQ(RSAKey::findBestCommonDivisor(all, LargeInteger(1)), LargeInteger(4));
     EXPECT_EQ(RSAKey::findBestCommonDivisor(all, LargeInteger(2)), LargeInteger(7));
+}
+
+/// As documented: one candidate after the other.
+LargeInteger firstCoprimeExponent(LargeInteger const& first, LargeInteger const& second) {
+    auto const isCoprime = [&](LargeInteger const& x) {
+        return x.findGreatestCommonDivisor(first).isOne()
+               && x.findGreatestCommonDivisor(second).isOne();
+    };
+    for (int power = 2; power <= 65536; power *= 2) {
+        if (isCoprime(LargeInteger(power + 1)))
+            return LargeInteger(power + 1);
+    }
+    LargeInteger candidate(4);
+    while (!isCoprime(candidate))
+        ++candidate;
+    return candidate;
+}
+
+// All ones up to a limb's end carry out of the sum of the limbs, again and again.
+TEST(KeyExponent, OfWideNumbersIsTheFirstListedOneCoprimeToBoth) {
+    int const factors[] = {3, 5, 17, 257, 65537};
+    for (int bits = 62; bits < 700; bits += bits % 64 == 2 ? 61 : 1) {
+        LargeInteger const ones = (LargeInteger(1) << bits) - LargeInteger(1);
+        LargeInteger random;
+        Random(bits).fillBitsRandomly(random, 0, bits);
+        for (int set = 0; set < 32; ++set) {
+            LargeInteger first = (LargeInteger(1) << bits) * LargeInteger(7);
+            LargeInteger second = random | LargeInteger(1);
+            for (int i = 0; i < 5; ++i)
+                (set >> i & 1 ? first : second) *= LargeInteger(factors[i]);
+            LargeInteger const one(1);
+            EXPECT_EQ(RSAKey::findBestCommonDivisor(first, one), firstCoprimeExponent(first, one));
+            EXPECT_EQ(RSAKey::findBestCommonDivisor(second, ones),
+                      firstCoprimeExponent(second, ones));
+        }
+    }
 }
 
 TEST(KeyCreation, TheSameSeedsGiveTheSamePair) {

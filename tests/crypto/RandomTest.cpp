@@ -129,6 +129,28 @@ TEST(Random, ARangeInsideOneWordIsDrawnUpward) {
     EXPECT_EQ(random.nextInt(), plainSteps.nextInt());
 }
 
+// Limbs are filled two steps at a time, with a word before or after where the range wants it.
+TEST(Random, RangesFromAnyPositionAreFilledAsThePlainStepsDo) {
+    int const starts[] = {-200, -65, -64, -33, -32, -1, 0, 1, 31, 32, 33, 63, 64, 95, 96, 128};
+    int const counts[] = {1,   31,  32,  33,  63,  64,  65,  95,  96,  97,
+                          127, 128, 129, 159, 160, 161, 192, 257, 1000};
+    for (int const start : starts) {
+        for (int const count : counts) {
+            for (long long const seed : {0LL, 42LL, -1LL, LLONG_MIN}) {
+                LargeInteger filled;
+                filled.setRange(0, 200, true);
+                LargeInteger expected(filled);
+                Random random(seed);
+                random.fillBitsRandomly(filled, start, count);
+                plain::Random plainSteps(seed);
+                plainSteps.fillBitsRandomly(expected, start, count);
+                EXPECT_EQ(filled, expected) << start << ' ' << count << ' ' << seed;
+                EXPECT_EQ(random.nextInt(), plainSteps.nextInt()) << start << ' ' << count;
+            }
+        }
+    }
+}
+
 TEST(Random, BitsOutsideTheRangeStay) {
     for (int fill : {0, 1}) {
         LargeInteger v;

@@ -13,6 +13,7 @@ namespace {
 using namespace limb_test;
 using qel::internal::indexOfPassing;
 using qel::internal::numbersAtOnce;
+using qel::internal::passingProves;
 using qel::internal::witnessScratch;
 using qel::limbs::Limb;
 using Number = std::array<Limb, 2>;
@@ -70,6 +71,39 @@ TEST(Witnesses, FindTheFirstOfSeveral) {
         EXPECT_EQ(firstPassing(3, 6, 2), 0) << variant.name;
         EXPECT_EQ(firstPassing(2, 6, 4), 2) << variant.name;
     }
+}
+
+// 3825123056546413051 is the least number that is no prime and passes with 2 to 23, and it passes
+// with 29 and 31 too; 2053 is the 309th odd prime.
+TEST(Witnesses, OfOneLimbBelowAZeroOneGiveTheVerdictsOfAllOfThem) {
+    Number const fool{3825123056546413051, 0};
+    Number const prime{(Limb{1} << 61) - 1, 0};
+    Number const witness{2053, 0};
+    auto const index = [&](std::initializer_list<Number const*> from, int witnessCount) {
+        std::vector<Limb const*> candidates;
+        for (Number const* number : from)
+            candidates.push_back(number->data());
+        std::vector<Limb> scratch(witnessScratch(2));
+        return indexOfPassing(candidates, 2, witnessCount, scratch.data());
+    };
+    for (Variant const& variant : paths()) {
+        Using const use(variant);
+        EXPECT_EQ(index({&fool, &prime}, 10), 0) << variant.name;
+        for (int witnessCount : {11, 12, 13, 308, 309, 400})
+            EXPECT_EQ(index({&fool, &prime}, witnessCount), 1) << variant.name << witnessCount;
+        EXPECT_EQ(index({&witness}, 308), 0) << variant.name;
+        EXPECT_EQ(index({&witness}, 309), -1) << variant.name;
+    }
+}
+
+TEST(Witnesses, ProveNumbersOfOneLimbWhenTwelveOrMoreArePassed) {
+    for (Number const& number : {Number{3825123056546413051, 0}, Number{~Limb{0}, 0}}) {
+        for (int const witnessCount : {12, 30, 308})
+            EXPECT_TRUE(passingProves(number.data(), 2, witnessCount)) << witnessCount;
+        for (int const witnessCount : {-1, 0, 11, 309, 1000})
+            EXPECT_FALSE(passingProves(number.data(), 2, witnessCount)) << witnessCount;
+    }
+    EXPECT_FALSE(passingProves(Number{1, 1}.data(), 2, 30));
 }
 
 }  // namespace

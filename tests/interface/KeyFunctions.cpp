@@ -15,13 +15,26 @@ using qel::RSAKey;
 
 /// Keys with zeros, signs and what is no digit; and two pairs.
 std::vector<std::string> const& keyTexts() {
-    static std::vector<std::string> const texts = {
-        "",          "abc",           ",",
-        "3,",        ",21",           "0,21",
-        "-0,21",     "3,-0",          "-3,-21",
-        "ff,1,2",    " x3 , 2 1\n",   "3,21",
-        "5,23",      "11,fff1",       "7,7fffffffffffffffffffffffffffffff",
-        "-11,10001", "ffffffff,fff1", "11," + patternOf(200)};
+    static std::vector<std::string> const texts = {"",
+                                                   "abc",
+                                                   ",",
+                                                   "3,",
+                                                   ",21",
+                                                   "0,21",
+                                                   "-0,21",
+                                                   "3,-0",
+                                                   "-3,-21",
+                                                   "ff,1,2",
+                                                   " x3 , 2 1\n",
+                                                   "3,21",
+                                                   "5,23",
+                                                   "11,fff1",
+                                                   "7,7fffffffffffffffffffffffffffffff",
+                                                   "-11,10001",
+                                                   "ffffffff,fff1",
+                                                   "11," + patternOf(200),
+                                                   "10001," + patternOf(129),
+                                                   "3," + patternOf(520)};
     return texts;
 }
 

@@ -107,8 +107,15 @@ class Triangle {
     std::size_t left;
 };
 
+/// Up to this length whole rows take less time than half of their products, doubled.
+constexpr std::size_t wholeRowsSquare = 6;
+
 // Each product of two different limbs once; the sum doubles them.
 void squareRowsAdx(Limb* out, Limb const* a, std::size_t count) noexcept {
+    if (count > 1 && count <= wholeRowsSquare) {
+        multiplyRowsAdx(out, a, count, a, count);
+        return;
+    }
     if (count > 1) {
         Triangle triangle(out, a, count);
         triangle.take(multiplyLimbAdx);
@@ -129,6 +136,8 @@ template <std::size_t kind>
 struct Reduce {
     static void call(Limb* out, Limb* t, Limb const* modulus, std::size_t count,
                      Limb negatedInverse) noexcept {
+        if constexpr (kind <= mostInSequence)
+            count = kind;
         for (std::size_t i = 0; i < count; ++i)
             t[i] = rowOf<kind>(t + i, modulus, count, t[i] * negatedInverse);
         finishReduction(out, t, modulus, count);

@@ -64,7 +64,9 @@ void multiply(Limb* out, Limb const* a, std::size_t aCount, Limb const* b, std::
 }
 
 void square(Limb* out, Limb const* a, std::size_t count, Limb* scratch) noexcept {
-    if (count >= transformSquare)
+    if (count < halvesSquare)
+        kernels().squareRows(out, a, count);
+    else if (count >= transformSquare)
         multiplyByTransform(out, a, count, a, count, scratch);
     else
         multiplyByParts(out, a, a, count, scratch);

@@ -5,7 +5,7 @@
 #include "Power.h"
 
 #include "Montgomery.h"
-#include "MontgomeryLimb.h"
+#include "ShortMontgomery.h"
 
 #include <algorithm>
 #include <array>
@@ -27,14 +27,22 @@ class DivisionContext {
             shiftLeft(divisor, divisor, count, shift);
     }
 
+    static std::size_t limbsNeeded(std::size_t count) noexcept {
+        return 4 * count + 2
+               + std::max(
+                   {multiplyScratch(count, count), squareScratch(count), divideScratch(count)});
+    }
+
     void multiply(Limb* out, Limb const* a, Limb const* b) const noexcept {
         limbs::multiply(product, a, count, b, count, scratch);
         reduce(out);
     }
 
-    void square(Limb* out, Limb const* a) const noexcept {
-        limbs::square(product, a, count, scratch);
-        reduce(out);
+    void squareTimes(Limb* a, long long times) const noexcept {
+        for (; times > 0; --times) {
+            limbs::square(product, a, count, scratch);
+            reduce(a);
+        }
     }
 
     void enter(Limb* out, Limb const* a) const noexcept { std::copy(a, a + count, out); }
@@ -50,7 +58,7 @@ class DivisionContext {
             out[0] = divideLimb(quotient, product, 2, divisor[0]) >> shift;
             return;
         }
-        divideNormalized(quotient, product, 2 * count + 1, divisor, count);
+        divide(quotient, product, 2 * count + 1, divisor, count, scratch);
         if (shift != 0)
             shiftRight(out, product, count, shift);
         else
@@ -65,21 +73,31 @@ class DivisionContext {
     Limb* scratch;
 };
 
-/// Products modulo an odd number of one limb.
-class LimbContext {
+/// Products modulo an odd number of one limb or two.
+template <typename Number>
+class ShortContext {
   public:
-    LimbContext(Limb const* modulus, std::size_t /*count*/, Limb* /*scratch*/) noexcept
-        : montgomery(modulus[0]) {}
+    ShortContext(Limb const* modulus, std::size_t /*count*/, Limb* /*scratch*/) noexcept
+        : montgomery(load<Number>(modulus)) {}
 
     void multiply(Limb* out, Limb const* a, Limb const* b) const noexcept {
-        *out = montgomery.multiply(*a, *b);
+        store(out, montgomery.multiply(load<Number>(a), load<Number>(b)));
     }
-    void square(Limb* out, Limb const* a) const noexcept { multiply(out, a, a); }
-    void enter(Limb* out, Limb const* a) const noexcept { *out = montgomery.enter(*a); }
-    void leave(Limb* out, Limb const* a) const noexcept { *out = montgomery.leave(*a); }
+    void squareTimes(Limb* a, long long times) const noexcept {
+        Number x = load<Number>(a);
+        for (; times > 0; --times)
+            x = montgomery.multiply(x, x);
+        store(a, x);
+    }
+    void enter(Limb* out, Limb const* a) const noexcept {
+        store(out, montgomery.enter(load<Number>(a)));
+    }
+    void leave(Limb* out, Limb const* a) const noexcept {
+        store(out, montgomery.leave(load<Number>(a)));
+    }
 
   private:
-    MontgomeryLimb montgomery;
+    ShortMontgomery<Number> montgomery;
 };
 
 /// Windows of this many bits cost the fewest multiplications for an exponent of `bits` bits:
@@ -128,7 +146,7 @@ bool joinBuckets(Buckets& buckets, std::size_t bucketCount, Context const& conte
         buckets.gather(context, count, k - 1, buckets.limbs + k * count);
     }
     if (any) {
-        context.square(joined, joined);
+        context.squareTimes(joined, 1);
         buckets.gather(context, count, 0, joined);
     }
     return buckets.used[0];
@@ -136,12 +154,11 @@ bool joinBuckets(Buckets& buckets, std::size_t bucketCount, Context const& conte
 
 }  // namespace
 
-// The current power and the joined product, the buckets, and what the larger context needs, which
-// is that of divisions.
+// The current power and the joined product, the buckets, and what the larger context needs.
 std::size_t powerScratch(std::size_t count, long long top) noexcept {
     std::size_t const buckets = std::size_t{1} << (windowWidth(top) - 1);
-    return (2 + buckets) * count + 4 * count + 2
-           + std::max(multiplyScratch(count, count), squareScratch(count));
+    return (2 + buckets) * count
+           + std::max(DivisionContext::limbsNeeded(count), montgomeryScratch(count));
 }
 
 namespace {
@@ -157,26 +174,30 @@ void powerIn(Limb* result, Limb* lower, Limb* highest, Limb const* base, Limb co
     Context const context(modulus, count, buckets.limbs + bucketCount * count);
 
     context.enter(current, base);
+    long long squared = 0;
+    std::size_t digit = 0;
     for (long long i = 0; i < top;) {
         if (!bitOf(e, i)) {
-            context.square(current, current);
             ++i;
             continue;
         }
-        std::size_t digit = 0;
-        long long const end = std::min(i + width, top);
-        for (long long j = i; j < end; ++j)
-            digit |= static_cast<std::size_t>(bitOf(e, j)) << (j - i);
+        context.squareTimes(current, i - squared);
+        squared = i;
+        digit = 0;
+        for (long long const end = std::min(i + width, top); i < end; ++i)
+            digit |= static_cast<std::size_t>(bitOf(e, i)) << (i - squared);
         buckets.gather(context, count, digit / 2, current);
-        for (; i < end; ++i)
-            context.square(current, current);
     }
+    context.squareTimes(current, top - squared);
 
     context.leave(highest, current);
     if (joinBuckets(buckets, bucketCount, context, count, joined)) {
-        context.leave(lower, buckets.limbs);
-        context.multiply(current, current, buckets.limbs);
-        context.leave(result, current);
+        if (squared == 0 && digit == 1)  // e = 2^top + 1, as public exponents are
+            std::copy(base, base + count, lower);
+        else
+            context.leave(lower, buckets.limbs);
+        // One factor as it is and one in the representation give the product as it is.
+        context.multiply(result, highest, buckets.limbs);
     } else {
         std::fill(lower, lower + count, Limb{0});
         lower[0] = 1;
@@ -188,12 +209,11 @@ void powerIn(Limb* result, Limb* lower, Limb* highest, Limb const* base, Limb co
 
 void power(Limb* result, Limb* lower, Limb* highest, Limb const* base, Limb const* e, long long top,
            Limb const* modulus, std::size_t count, Limb* scratch) noexcept {
-    if (modulus[0] % 2 != 0 && count == 1)
-        powerIn<LimbContext>(result, lower, highest, base, e, top, modulus, count, scratch);
-    else if (modulus[0] % 2 != 0)
-        powerIn<MontgomeryContext>(result, lower, highest, base, e, top, modulus, count, scratch);
-    else
-        powerIn<DivisionContext>(result, lower, highest, base, e, top, modulus, count, scratch);
+    auto const in = modulus[0] % 2 == 0 ? powerIn<DivisionContext>
+                    : count == 1        ? powerIn<ShortContext<Limb>>
+                    : count == 2        ? powerIn<ShortContext<DoubleLimb>>
+                                        : powerIn<MontgomeryContext>;
+    in(result, lower, highest, base, e, top, modulus, count, scratch);
 }
 
 }  // namespace qel::limbs

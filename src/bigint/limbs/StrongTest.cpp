@@ -86,30 +86,41 @@ bool StrongTest::passes(Limb witness) noexcept {
     if (isEqual(one) || isEqual(minusOne))
         return true;
     for (long long j = 1; j < twos; ++j) {
-        context.square(power, power);
+        context.squareTimes(power, 1);
         if (isEqual(minusOne))
             return true;
     }
     return false;
 }
 
-bool StrongLimbTest::passes(Limb witness) const noexcept {
-    Limb const base = montgomery.enter(witness);
-    Limb power = base;
-    for (int i = bitsPerLimb - 1 - std::countl_zero(oddPart); i-- > 0;) {
-        power = montgomery.multiply(power, power);
-        if ((oddPart >> i & 1) != 0)
-            power = montgomery.multiply(power, base);
+template <typename Number>
+bool ShortStrongTest<Number>::passes(Limb witness) const noexcept {
+    // Three bits at a time, without branches.
+    constexpr int width = 3;
+    std::array<Number, std::size_t{1} << width> powers{one, montgomery.enter(witness % n)};
+    for (std::size_t digit = 2; digit < powers.size(); ++digit)
+        powers[digit] = montgomery.multiply(powers[digit - 1], powers[1]);
+    int low = highestBit(oddPart) / width * width;
+    Number power = powers[static_cast<std::size_t>(oddPart >> low)];
+    while (low > 0) {
+        low -= width;
+        for (int i = 0; i < width; ++i)
+            power = montgomery.multiply(power, power);
+        auto const digit = static_cast<std::size_t>(oddPart >> low) % powers.size();
+        power = montgomery.multiply(power, powers[digit]);
     }
-    if (power == montgomery.unit() || power == montgomery.minusUnit())
+    if (power == one || power == n - one)
         return true;
     for (int j = 1; j < twos; ++j) {
         power = montgomery.multiply(power, power);
-        if (power == montgomery.minusUnit())
+        if (power == n - one)
             return true;
     }
     return false;
 }
+
+template class ShortStrongTest<Limb>;
+template class ShortStrongTest<DoubleLimb>;
 
 void StrongTest::raiseToOddPart(Limb witness) noexcept {
     DigitPowers const powers(witness);
@@ -121,8 +132,7 @@ void StrongTest::raiseToOddPart(Limb witness) noexcept {
     multiplyLimb(powers.table[bitsAt(n, count, low, width)]);
     for (width = powers.width; low > twos;) {
         low -= width;
-        for (int i = 0; i < width; ++i)
-            context.square(power, power);
+        context.squareTimes(power, width);
         multiplyLimb(powers.table[bitsAt(n, count, low, width)]);
     }
 }

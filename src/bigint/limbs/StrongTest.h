@@ -1,7 +1,7 @@
 // Strong probable primes (Rabin, "Probabilistic algorithm for testing primality", 1980).
 #pragma once
 
-#include "MontgomeryLimb.h"
+#include "ShortMontgomery.h"
 
 #include <bit>
 
@@ -34,19 +34,24 @@ class StrongTest {
     MontgomeryContext context;
 };
 
-/// The same for a number of one limb, in registers.
-class StrongLimbTest {
+/// The same for a Limb or a DoubleLimb above 2^64, in registers.
+template <typename Number>
+class ShortStrongTest {
   public:
-    /// @param n odd and above 1
-    explicit StrongLimbTest(Limb n) noexcept
-        : montgomery(n), twos(std::countr_zero(n - 1)), oddPart((n - 1) >> twos) {}
+    /// @param number odd and above 1
+    explicit ShortStrongTest(Number number) noexcept
+        : n(number), montgomery(n), one(montgomery.enter(1)), twos(lowestBit(n - 1)),
+          oddPart((n - 1) >> twos) {}
 
     [[nodiscard]] bool passes(Limb witness) const noexcept;
 
   private:
-    MontgomeryLimb montgomery;
+    Number n;
+    ShortMontgomery<Number> montgomery;
+    /// What represents 1.
+    Number one;
     int twos;
-    Limb oddPart;
+    Number oddPart;
 };
 
 std::size_t strongTestScratch(std::size_t count) noexcept;

@@ -31,6 +31,9 @@ inline constexpr std::size_t divideReciprocal = 4500;
 /// At least 3, and at most divideReciprocal.
 inline constexpr std::size_t reciprocalNewton = 2000;
 
+/// Montgomery reductions of fewer limbs are taken row by row. At least 2.
+inline constexpr std::size_t reduceSplit = 160;
+
 /// Decimal text of more groups of 19 digits than this is split. At least 6.
 inline constexpr std::size_t decimalOutSplit = 32;
 inline constexpr std::size_t decimalInSplit = 80;
