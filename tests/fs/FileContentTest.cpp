@@ -1,6 +1,7 @@
 // Reading the first word of a file, and writing a string to one.
 #include "qel/File.h"
 
+#include "ShiftedBytes.h"
 #include "TemporaryFolder.h"
 
 #include <csignal>
@@ -183,23 +184,9 @@ TEST_F(FileContent, AnApplicationsLocaleMakesNoWhiteSpace) {
     std::locale::global(previous);
 }
 
-/// A conversion of characters that changes every byte, as an application's locale may have one.
-class Shift : public std::codecvt<char, char, std::mbstate_t> {
-  protected:
-    bool do_always_noconv() const noexcept override { return false; }
-    result do_out(std::mbstate_t& /*state*/, char const* from, char const* fromEnd,
-                  char const*& fromNext, char* to, char* toEnd, char*& toNext) const override {
-        for (; from != fromEnd && to != toEnd; ++from, ++to)
-            *to = static_cast<char>(*from + 1);
-        fromNext = from;
-        toNext = to;
-        return ok;
-    }
-};
-
 TEST_F(FileContent, AnApplicationsLocaleChangesNoByteWritten) {
     filesystem::create_directory("dir");
-    std::locale const previous = std::locale::global(std::locale(std::locale(), new Shift));
+    std::locale const previous = std::locale::global(std::locale(std::locale(), new ShiftedBytes));
     bool const written = File::WriteStringToFile("abc", "dir/f", replacing);
     std::locale::global(previous);
     EXPECT_TRUE(written);
