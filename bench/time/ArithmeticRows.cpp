@@ -31,12 +31,13 @@ std::vector<Pair> pairs(int) {
 }
 
 /// Moves the date itself, there and back.
-template <typename Duration>
-void addMoveRow(Row const& row, void (Date::*add)(long long) noexcept) {
+template <typename Duration, void (Date::*add)(long long) noexcept>
+void addMoveRow(Row const& row) {
     addRows(
         row, noSize, pairs,
-        [add](auto& x) {
+        [](auto& x) {
             (x.date.*add)(x.amount);
+            benchmark::DoNotOptimize(x.date);
             (x.date.*add)(-x.amount);
             return x.date.GetMillisecondsSinceEpoch();
         },
@@ -56,6 +57,7 @@ void addSumRows() {
         [](auto& x) {
             auto const amount = static_cast<unsigned long long>(x.amount);
             x.date += amount;
+            benchmark::DoNotOptimize(x.date);
             x.date -= amount;
             return x.date.GetMillisecondsSinceEpoch();
         },
@@ -65,12 +67,12 @@ void addSumRows() {
                  x.point -= milliseconds(x.amount);
                  return static_cast<long long>(x.point.time_since_epoch().count());
              }});
-    addMoveRow<std::chrono::seconds>({"AddSeconds", {"Date::AddSeconds(long long)"}},
-                                     &Date::AddSeconds);
-    addMoveRow<std::chrono::minutes>({"AddMinutes", {"Date::AddMinutes(long long)"}},
-                                     &Date::AddMinutes);
-    addMoveRow<std::chrono::hours>({"AddHours", {"Date::AddHours(long long)"}}, &Date::AddHours);
-    addMoveRow<std::chrono::days>({"AddDays", {"Date::AddDays(long long)"}}, &Date::AddDays);
+    addMoveRow<std::chrono::seconds, &Date::AddSeconds>(
+        {"AddSeconds", {"Date::AddSeconds(long long)"}});
+    addMoveRow<std::chrono::minutes, &Date::AddMinutes>(
+        {"AddMinutes", {"Date::AddMinutes(long long)"}});
+    addMoveRow<std::chrono::hours, &Date::AddHours>({"AddHours", {"Date::AddHours(long long)"}});
+    addMoveRow<std::chrono::days, &Date::AddDays>({"AddDays", {"Date::AddDays(long long)"}});
 }
 
 void addPartRows() {

@@ -47,11 +47,13 @@ class CharFunctions {
     /// @{
 
     /// True when `s` has no bytes. `s` must not be null.
-    [[nodiscard]] static bool IsEmpty(char const* s) noexcept;
+    [[nodiscard]] static bool IsEmpty(char const* s) noexcept { return *s == '\0'; }
     /// The number of bytes before the terminator. `s` must not be null.
     [[nodiscard]] static unsigned int Length(char const* s) noexcept;
     /// True when the first byte is `0` to `9`; false for null.
-    [[nodiscard]] static bool StartsWithDigit(char const* s) noexcept;
+    [[nodiscard]] static bool StartsWithDigit(char const* s) noexcept {
+        return s != nullptr && *s >= '0' && *s <= '9';
+    }
     /// True when some byte is 128 or above. `s` must not be null.
     [[nodiscard]] static bool ContainsExtendedAsciiCharacters(char const* s) noexcept;
     /// How many bytes of `s` equal `c`; 0 for null. The terminator never counts.

@@ -97,18 +97,23 @@ class Date {
     /// @{
 
     /// Moves forward by an unsigned amount.
-    Date& operator+=(unsigned long long milliseconds) noexcept;
+    constexpr Date& operator+=(unsigned long long milliseconds) noexcept {
+        msSinceEpoch = static_cast<long long>(asUnsigned(msSinceEpoch) + milliseconds);
+        return *this;
+    }
     /// Moves back by an unsigned amount.
-    Date& operator-=(unsigned long long milliseconds) noexcept;
+    constexpr Date& operator-=(unsigned long long milliseconds) noexcept {
+        return *this += 0 - milliseconds;
+    }
     /// Moves by `n` seconds; back when negative.
-    void AddSeconds(long long n) noexcept;
+    constexpr void AddSeconds(long long n) noexcept { *this += asUnsigned(n) * 1000; }
     /// Moves by `n` minutes; back when negative.
-    void AddMinutes(long long n) noexcept;
+    constexpr void AddMinutes(long long n) noexcept { *this += asUnsigned(n) * 60000; }
     /// Moves by `n` hours; back when negative.
-    void AddHours(long long n) noexcept;
+    constexpr void AddHours(long long n) noexcept { *this += asUnsigned(n) * 3600000; }
     /// Moves by `n` times 24 hours, so that the local time of day shifts where daylight saving
     /// begins or ends in between.
-    void AddDays(long long n) noexcept;
+    constexpr void AddDays(long long n) noexcept { *this += asUnsigned(n) * 86400000; }
     /// The days from `second` to `first`, a part of a day taken upward: 1 ms counts as a day,
     /// -1 ms as none. Computed in double precision, in the rounding mode of the thread: where that
     /// is not to nearest, seven days back may count as -6.
@@ -240,6 +245,10 @@ class Date {
     /// @}
 
   private:
+    static constexpr unsigned long long asUnsigned(long long value) noexcept {
+        return static_cast<unsigned long long>(value);
+    }
+
     long long msSinceEpoch = 0;
 };
 

@@ -105,8 +105,7 @@ class File {
     /// does not open, with `text` empty. True with an empty `text` when there is no word. White
     /// space is that of the "C" locale. `path` may be the text's own.
     ///
-    /// A pipe that stays open is waited for as long as the standard library's stream waits: until
-    /// white space ends the word with libstdc++, until 4096 bytes have come with libc++.
+    /// A pipe that stays open is waited for until white space ends the word.
     [[nodiscard]] static bool ReadStringFromFile(std::string& text, char const* path) noexcept;
     /// Refuses a new file named without a folder, as `HasWriteAccess` does: "f" must be "./f".
     ///

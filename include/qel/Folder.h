@@ -3,6 +3,7 @@
 #ifndef QEL_FOLDER_H
 #define QEL_FOLDER_H
 
+#include <cstring>
 #include <string>
 
 namespace qel {
@@ -51,7 +52,9 @@ class Folder {
     [[nodiscard]] static std::string ConcatenatePaths(char const* folder,
                                                       char const* name) noexcept;
     /// True for a `/` in front, and for a ":/" anywhere, as behind a volume's name.
-    [[nodiscard]] static bool IsPathAbsolute(char const* path) noexcept;
+    [[nodiscard]] static bool IsPathAbsolute(char const* path) noexcept {
+        return *path == '/' || std::strstr(path, ":/") != nullptr;
+    }
     /// Always false: the test follows links before it looks. Whoever needs to know asks the system.
     [[nodiscard]] static bool IsSymlink(char const* path) noexcept;
     /// "/Volumes/" before a path that does not begin with `/`, whose first ":" is left out; then

@@ -2,28 +2,74 @@
 // to the system it is one at which nothing exists.
 #include "qel/File.h"
 
-#include <fstream>
-#include <locale>
+#include "../text/Ascii.h"
+#include "../text/Blocks.h"
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
 #include <cstdio>
+#include <string_view>
+
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace qel {
+
+using namespace internal;
 
 namespace {
 
 /// Set for folders, and for sockets (0xC000) and block devices (0x6000) too.
 constexpr mode_t folderBit = 0x4000;
 
-/// A stream takes any exception for a failure of its own, exhausted memory too: half a word would
-/// pass for a whole one. So it hands exceptions on, and only its own mean what they meant.
-void readWord(std::istream& file, std::string& word) {
-    try {
-        file.exceptions(std::ios::badbit);
-        file >> word;
-    } catch (std::ios::failure const&) {
-        // What could be read is the word.
+/// The bytes that `transfer`, a call of read or write, has moved; 0 or less at the end and where it
+/// fails for another reason than a signal.
+template <typename Transfer>
+ssize_t uninterrupted(Transfer transfer) noexcept {
+    ssize_t count = 0;
+    do {
+        count = transfer();
+    } while (count < 0 && errno == EINTR);
+    return count;
+}
+
+/// `end` where there is none.
+char const* findWhiteSpace(char const* begin, char const* end) noexcept {
+    constexpr auto step = static_cast<std::ptrdiff_t>(blockSize);
+    auto const areSpaces = [](Block const& bytes) -> Block {
+        return (bytes == repeated(' ')) | (bytes - repeated('\t') < Block{} + 5);
+    };
+    while (end - begin >= step && !any(areSpaces(blockAt(begin))))
+        begin += step;
+    return std::find_if(begin, end, isWhiteSpace);
+}
+
+/// Reads on until white space ends the word. What could be read before a failure is the word.
+void readWord(int file, std::string& word) {
+    std::array<char, 8192> block;
+    for (;;) {
+        ssize_t const count = uninterrupted([&] { return read(file, block.data(), block.size()); });
+        if (count <= 0)
+            return;
+        char const* begin = block.data();
+        char const* const end = begin + count;
+        if (word.empty())
+            begin = std::find_if_not(begin, end, isWhiteSpace);
+        char const* const wordEnd = findWhiteSpace(begin, end);
+        word.append(begin, wordEnd);
+        if (wordEnd != end)
+            return;
+    }
+}
+
+void writeAll(int file, std::string_view text) noexcept {
+    while (!text.empty()) {
+        ssize_t const count = uninterrupted([&] { return write(file, text.data(), text.size()); });
+        if (count <= 0)
+            return;
+        text.remove_prefix(static_cast<std::size_t>(count));
     }
 }
 
@@ -61,18 +107,21 @@ bool File::Delete(char const* path) noexcept {
 }
 
 bool File::HasWriteAccess(char const* path) noexcept {
-    return access(Exists(path) ? path : GetParentFolder(path).c_str(), W_OK) == 0;
+    if (access(path, W_OK) == 0)
+        return true;
+    bool const isThere = errno != ENOENT && Exists(path);
+    return !isThere && access(GetParentFolder(path).c_str(), W_OK) == 0;
 }
 
 bool File::ReadStringFromFile(std::string& text, char const* path) noexcept {
     if (!ExistsAsFile(path))
         return false;
-    std::ifstream file(path);
+    int const file = open(path, O_RDONLY);
     text.clear();  // not before: the path may be the text's own
-    if (!file.good())
+    if (file < 0)
         return false;
-    file.imbue(std::locale::classic());
     readWord(file, text);
+    close(file);
     return true;
 }
 
@@ -81,12 +130,11 @@ bool File::WriteStringToFile(std::string const& text, char const* path, bool app
         return false;
     if (!append && !Delete(path))
         return false;
-    std::ofstream file;
-    file.imbue(std::locale::classic());
-    file.open(path, append ? std::ios::out | std::ios::app : std::ios::out);
-    if (!file.is_open())
+    int const file = open(path, O_WRONLY | O_CREAT | (append ? O_APPEND : O_TRUNC), 0666);
+    if (file < 0)
         return false;
-    file.write(text.data(), static_cast<std::streamsize>(text.size()));
+    writeAll(file, text);
+    close(file);
     return true;
 }
 

@@ -1,6 +1,7 @@
 // File names as text: separators, parents, extensions. The file system is never asked.
 #include "qel/File.h"
 
+#include "../text/Joined.h"
 #include "qel/CharFunctions.h"
 
 #include <algorithm>
@@ -26,6 +27,14 @@ char const* extensionOf(char const* path) noexcept {
     return dot == nullptr ? path + std::strlen(path) : dot + 1;
 }
 
+/// `wanted` may begin with a dot.
+bool isExtension(char const* own, char const* wanted, bool ignoreCase) noexcept {
+    if (*wanted == '.')
+        ++wanted;
+    return ignoreCase ? CharFunctions::AreEqualIgnoreCase(own, wanted)
+                      : CharFunctions::AreEqual(own, wanted);
+}
+
 /// The text up to its last dot. That is where the last occurrence of the dot and the extension
 /// starts, and it ends the text: cutting it out leaves what stands before it.
 std::string withoutExtension(char const* text) {
@@ -48,7 +57,7 @@ std::string File::ConvertFileNameToNativeStyle(char const* path) noexcept {
 }
 
 bool File::IsFileNameNativeStyle(char const* path) noexcept {
-    return !CharFunctions::Contains(path, "\\");
+    return std::strchr(path, '\\') == nullptr;
 }
 
 std::string File::GetParentFolder(char const* path) noexcept {
@@ -61,7 +70,7 @@ std::string File::GetFileName(char const* path) noexcept {
 }
 
 bool File::HasExtension(char const* path) noexcept {
-    return CharFunctions::Contains(path, ".");
+    return std::strchr(path, '.') != nullptr;
 }
 
 std::string File::GetExtension(char const* path) noexcept {
@@ -81,37 +90,32 @@ std::string File::AppendStringBeforeExtension(char const* path, char const* text
 }
 
 std::string File::AppendExtension(char const* path, char const* extension) noexcept {
-    std::string result(path);
     if (HasThisExtension(path, extension, true))
-        return result;
-    if (!result.empty() && result.back() == '.')
-        result.pop_back();
-    if (!CharFunctions::StartsWith(extension, "."))
-        result += '.';
-    return result += extension;
+        return path;
+    std::string_view stem(path);
+    if (!stem.empty() && stem.back() == '.')
+        stem.remove_suffix(1);
+    return internal::joined(stem, *extension == '.' ? "" : ".", extension);
 }
 
 bool File::HasThisExtension(char const* path, char const* extension, bool ignoreCase) noexcept {
-    char const* const wanted =
-        CharFunctions::StartsWith(extension, ".") ? extension + 1 : extension;
-    return ignoreCase ? CharFunctions::AreEqualIgnoreCase(extensionOf(path), wanted)
-                      : CharFunctions::AreEqual(extensionOf(path), wanted);
+    return isExtension(extensionOf(path), extension, ignoreCase);
 }
 
 bool File::HasOneOfTheseExtensions(char const* path, std::vector<std::string> const& extensions,
                                    bool ignoreCase) noexcept {
-    return std::any_of(extensions.begin(), extensions.end(), [&](std::string const& extension) {
-        return HasThisExtension(path, extension.c_str(), ignoreCase);
-    });
+    return std::any_of(extensions.begin(), extensions.end(),
+                       [=, own = extensionOf(path)](std::string const& extension) {
+                           return isExtension(own, extension.c_str(), ignoreCase);
+                       });
 }
 
 std::string File::MakeFullPath(char const* file, char const* folder) noexcept {
-    std::string path(folder);
     // The empty text ends with everything, and so no slash comes behind an empty folder.
-    if (!CharFunctions::EndsWith(folder, "/"))
-        path += '/';
-    path += fileName(file);
-    return ConvertFileNameToUnixStyle(path.c_str());
+    std::string path =
+        internal::joined(folder, CharFunctions::EndsWith(folder, "/") ? "" : "/", fileName(file));
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
 }
 
 std::string File::CleanFileName(char const* name) noexcept {

@@ -42,10 +42,6 @@ std::string Folder::ConcatenatePaths(char const* folder, char const* name) noexc
     return path += name;
 }
 
-bool Folder::IsPathAbsolute(char const* path) noexcept {
-    return *path == '/' || CharFunctions::Contains(path, ":/");
-}
-
 std::string Folder::TranslateAbsolutePath(char const* path) noexcept {
     return internal::utf8FromMacRoman(*path == '/' ? path : belowVolumes(path));
 }

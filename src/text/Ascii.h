@@ -1,4 +1,5 @@
-// Digits, letters and case by plain ASCII ranges, for loops over many bytes.
+// Digits, letters, case and white space by plain ASCII ranges, for loops over many bytes, whatever
+// locale an application sets.
 #pragma once
 
 namespace qel::internal {
@@ -21,6 +22,11 @@ constexpr char upperCase(char c) noexcept {
 
 constexpr char lowerCase(char c) noexcept {
     return isUpperCase(c) ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// What the C library's isspace accepts in its "C" locale.
+constexpr bool isWhiteSpace(char c) noexcept {
+    return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
 }  // namespace qel::internal

@@ -1,6 +1,7 @@
 // Building new text: joining, cutting, padding, reversing, trimming.
 #include "qel/CharFunctions.h"
 
+#include "Ascii.h"
 #include "Joined.h"
 
 #include <algorithm>
@@ -12,10 +13,7 @@ namespace qel {
 
 namespace {
 
-/// What the C library's isspace accepts, whatever locale an application sets.
-bool isWhiteSpace(char c) noexcept {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
+using internal::isWhiteSpace;
 
 char const* withoutLeadingSpaces(char const* s) noexcept {
     while (isWhiteSpace(*s))

@@ -16,21 +16,23 @@ class Candidates {
 
     /// The last candidate below `end`; the no-position value when there is none.
     [[nodiscard]] std::size_t lastBelow(std::size_t end) const noexcept {
+        constexpr std::size_t wide = 4 * blockSize;
+        while (end >= wide && !any(agreeingInFourBlocks(end - wide)))
+            end -= wide;
         for (; end >= blockSize; end -= blockSize) {
             Block const hits = agreeing(end - blockSize);
             if (any(hits))
                 return end - blockSize + lastHit(hits);
-            while (end >= 5 * blockSize && !any(agreeingInFourBlocks(end - 5 * blockSize)))
-                end -= 4 * blockSize;
         }
-        Block const hits = agreeing(0, end);
-        return any(hits) ? lastHit(hits) : std::string_view::npos;
+        while (end > 0 && (firsts_[end - 1] != first_ || lasts_[end - 1] != last_))
+            --end;
+        return end - 1;  // wraps around to the no-position value
     }
 
   private:
-    [[nodiscard]] Block agreeing(std::size_t i, std::size_t count = blockSize) const noexcept {
-        return (blockAt(firsts_ + i, count) == repeated(first_))
-               & (blockAt(lasts_ + i, count) == repeated(last_));
+    [[nodiscard]] Block agreeing(std::size_t i) const noexcept {
+        return (blockAt(firsts_ + i) == repeated(first_))
+               & (blockAt(lasts_ + i) == repeated(last_));
     }
 
     [[nodiscard]] Block agreeingInFourBlocks(std::size_t i) const noexcept {

@@ -36,10 +36,15 @@ class SplitText {
     void dropFromHead(std::size_t count) noexcept { headEnd_ -= count; }
 
     void appendToHead(std::string_view text) {
-        if (tail_ - headEnd_ < text.size())
-            widen(text.size());
+        makeRoom(text.size());
         std::memcpy(buffer_.data() + headEnd_, text.data(), text.size());
         headEnd_ += text.size();
+    }
+
+    void prependToTail(std::string_view text) {
+        makeRoom(text.size());
+        tail_ -= text.size();
+        std::memcpy(buffer_.data() + tail_, text.data(), text.size());
     }
 
     /// Moves up to `count` bytes from the front of the tail back to the head.
@@ -61,8 +66,11 @@ class SplitText {
             std::memmove(buffer_.data() + to, buffer_.data() + from, count);
     }
 
-    /// Doubles the buffer, so that all widenings together cost no more than the final length.
-    void widen(std::size_t needed) {
+    /// Doubles the buffer where it is too narrow, so that all of this together costs no more than
+    /// the final length.
+    void makeRoom(std::size_t needed) {
+        if (tail_ - headEnd_ >= needed)
+            return;
         std::size_t const added = buffer_.size() + needed;
         buffer_.insert(tail_, added, '\0');
         tail_ += added;
@@ -78,20 +86,33 @@ bool isSearchable(char const* part) noexcept {
     return part != nullptr && !CharFunctions::IsEmpty(part);
 }
 
+/// True when `part` neither starts in `substitute` nor reaches into it from the left, whatever
+/// stands around it.
+bool noOccurrenceTouches(std::string_view substitute, std::string_view part) noexcept {
+    return !substitute.empty() && substitute.find(part.front()) == std::string_view::npos
+           && part.find(substitute.front(), 1) == std::string_view::npos;
+}
+
 /// Replaces the last occurrence until there is none. Not inlined: in a function that must not
 /// throw, GCC would let a lack of memory end the process without its name.
 [[gnu::noinline]] std::string replaceAll(char const* s, std::string_view part,
                                          std::string_view substitute) {
     internal::LastOccurrence last(part);
+    bool const isFinal = noOccurrenceTouches(substitute, part);
     SplitText text(s);
     // No occurrence starts in the tail: it lies behind the place of the last occurrence. So the
-    // next one starts in the head and reaches into the tail by less than its own length.
+    // next one starts in the head and reaches into the tail by less than its own length; or ends in
+    // front of a substitute that is final.
     for (std::size_t position = last.in(text.head()); position != std::string_view::npos;
          position = last.in(text.head())) {
         text.passOver(position + part.size());
         text.dropFromHead(part.size());
-        text.appendToHead(substitute);
-        text.takeBack(part.size() - 1);
+        if (isFinal) {
+            text.prependToTail(substitute);
+        } else {
+            text.appendToHead(substitute);
+            text.takeBack(part.size() - 1);
+        }
     }
     return std::move(text).joined();
 }

@@ -3,11 +3,11 @@
 
 #include "Ascii.h"
 #include "Blocks.h"
-#include "ByteSet.h"
 #include "FoldedComparison.h"
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 #include <cstring>
 #include <string_view>
 
@@ -22,24 +22,46 @@ namespace {
 constexpr auto booleanWords =
     std::to_array<std::string_view>({"True", "true", "TRUE", "False", "false", "FALSE", "0", "1"});
 
-/// So many members of a set are searched for one by one.
+/// Sets of up to so many members are searched for in blocks.
 constexpr std::size_t fewMembers = 8;
 
-bool hasFewMembers(char const* set) noexcept {
-    std::size_t count = 0;
-    while (count <= fewMembers && set[count] != '\0')
-        ++count;
-    return count <= fewMembers;
+/// The position behind the last byte that is in `set`; 0 when there is none.
+std::size_t behindLastOf(std::string_view text, std::string_view set) noexcept {
+    auto const index = [](char c) { return static_cast<unsigned char>(c); };
+    std::bitset<256> members;
+    for (char const c : set)
+        members[index(c)] = true;
+    std::size_t end = text.size();
+    while (end > 0 && !members[index(text[end - 1])])
+        --end;
+    return end;
 }
 
-/// The position behind the last byte that is in `set`; 0 when there is none.
-std::size_t behindLastOfFew(char const* s, char const* set) noexcept {
-    std::size_t end = 0;
+/// Not zero at the places where one of `count` blocks has a member of `set`.
+template <std::size_t count>
+Block membersIn(char const* blocks, char const* set) noexcept {
+    Block hits = {};
     for (; *set != '\0'; ++set) {
-        if (char const* const found = std::strrchr(s, *set))
-            end = std::max(end, static_cast<std::size_t>(found - s) + 1);
+        for (std::size_t i = 0; i < count; ++i)
+            hits |= blockAt(blocks + i * blockSize) == repeated(*set);
     }
-    return end;
+    return hits;
+}
+
+/// The same in blocks, at least one of which the text fills: the last that is looked at may have
+/// bytes that were passed already.
+std::size_t behindLastOfFew(std::string_view text, char const* set) noexcept {
+    constexpr std::size_t step = 4 * blockSize;
+    std::size_t end = text.size();
+    while (end >= step && !any(membersIn<4>(text.data() + end - step, set)))
+        end -= step;
+    while (end > 0) {
+        end -= std::min(end, blockSize);
+        Block const hits = membersIn<1>(text.data() + end, set);
+        if (any(hits))
+            return end + lastHit(hits) + 1;
+    }
+    return 0;
 }
 
 /// So many that the hits at one place of a block still fit in a byte.
@@ -69,16 +91,8 @@ bool endsWith(char const* s, char const* suffix, Fold fold) noexcept {
 
 }  // namespace
 
-bool CharFunctions::IsEmpty(char const* s) noexcept {
-    return *s == '\0';
-}
-
 unsigned int CharFunctions::Length(char const* s) noexcept {
     return static_cast<unsigned int>(std::strlen(s));
-}
-
-bool CharFunctions::StartsWithDigit(char const* s) noexcept {
-    return s != nullptr && isDigit(*s);
 }
 
 bool CharFunctions::ContainsExtendedAsciiCharacters(char const* s) noexcept {
@@ -113,8 +127,9 @@ int CharFunctions::IndexOfFirstOccurence(char const* s, char const* set) noexcep
 }
 
 int CharFunctions::IndexOfLastOccurence(char const* s, char const* set) noexcept {
-    std::size_t const end =
-        hasFewMembers(set) ? behindLastOfFew(s, set) : ByteSet(set).behindLastIn(s);
+    std::string_view const text(s);
+    bool const byBlocks = text.size() >= blockSize && strnlen(set, fewMembers + 1) <= fewMembers;
+    std::size_t const end = byBlocks ? behindLastOfFew(text, set) : behindLastOf(text, set);
     return static_cast<int>(end) - 1;
 }
 

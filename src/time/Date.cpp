@@ -1,10 +1,8 @@
-// The value: its construction from fields, its arithmetic, and what is read from the count alone.
-// Unsigned arithmetic carries every sum and product, so that the ends of the range wrap around.
+// The value: its construction from fields, and what is read from the count alone.
 #include "qel/Date.h"
 
 #include "CivilCalendar.h"
 
-#include <cmath>
 #include <ctime>
 
 namespace qel {
@@ -12,17 +10,10 @@ namespace qel {
 namespace {
 
 constexpr long long msPerSecond = 1000;
-constexpr long long msPerMinute = 60 * msPerSecond;
-constexpr long long msPerHour = 60 * msPerMinute;
-constexpr long long msPerDay = 24 * msPerHour;
 constexpr double daysPerMs = 1.1574074074074074e-08;  // the double nearest to 1 / 86400000
 
 constexpr unsigned int firstLocalYear = 1971;
 constexpr unsigned int lastLocalYear = 2037;
-
-constexpr unsigned long long asUnsigned(long long value) noexcept {
-    return static_cast<unsigned long long>(value);
-}
 
 /// Values beyond the signed range are stored as the bit patterns that they are.
 constexpr int fieldValue(unsigned int value) noexcept {
@@ -69,38 +60,13 @@ unsigned int Date::GetMilliSeconds() const noexcept {
     return static_cast<unsigned int>(msSinceEpoch < 0 ? millisecond - msPerSecond : millisecond);
 }
 
-Date& Date::operator+=(unsigned long long milliseconds) noexcept {
-    msSinceEpoch = static_cast<long long>(asUnsigned(msSinceEpoch) + milliseconds);
-    return *this;
-}
-
-Date& Date::operator-=(unsigned long long milliseconds) noexcept {
-    msSinceEpoch = static_cast<long long>(asUnsigned(msSinceEpoch) - milliseconds);
-    return *this;
-}
-
-void Date::AddSeconds(long long n) noexcept {
-    *this += asUnsigned(n) * msPerSecond;
-}
-
-void Date::AddMinutes(long long n) noexcept {
-    *this += asUnsigned(n) * msPerMinute;
-}
-
-void Date::AddHours(long long n) noexcept {
-    *this += asUnsigned(n) * msPerHour;
-}
-
-void Date::AddDays(long long n) noexcept {
-    *this += asUnsigned(n) * msPerDay;
-}
-
 long long Date::GetNumberOfDaysBetween(Date const& first, Date const& second) noexcept {
     Date difference = first;
     difference -= asUnsigned(second.msSinceEpoch);
     // Beyond 285,000 years a double has no room for a millisecond above whole days.
     double const days = static_cast<double>(difference.msSinceEpoch) * daysPerMs;
-    return static_cast<long long>(std::ceil(days));
+    auto const wholeDays = static_cast<long long>(days);  // toward zero, below 2^37
+    return static_cast<double>(wholeDays) < days ? wholeDays + 1 : wholeDays;
 }
 
 }  // namespace qel

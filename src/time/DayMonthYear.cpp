@@ -38,12 +38,13 @@ int readField(std::string const& characters, std::size_t position) noexcept {
     if (characters.empty())
         return -1;
     std::string const field(characters, position, position == yearPosition ? 4 : 2);
-    if (!CharFunctions::IsUnsignedInt(field.c_str()))
-        return -1;
-    int value = 0;
     char const* const begin = field.data() + (field.front() == '+' ? 1 : 0);
-    std::from_chars(begin, field.data() + field.length(), value);
-    return value;
+    char const* const end = field.data() + field.length();
+    unsigned int value = 0;
+    auto const [stop, error] = std::from_chars(begin, end, value);
+    bool const isAllDigits = error == std::errc() && stop == end;
+    return isAllDigits || CharFunctions::IsUnsignedInt(field.c_str()) ? static_cast<int>(value)
+                                                                      : -1;
 }
 
 /// The fields as numbers, -1 for one that is none.

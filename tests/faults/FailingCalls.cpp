@@ -2,12 +2,13 @@
 #include "FailingCalls.h"
 
 #include <cerrno>
+#include <cstdarg>
 #include <cstdio>
 #include <ctime>
 
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/uio.h>
 #include <unistd.h>
 
 namespace {
@@ -75,16 +76,20 @@ char* realpath(char const* path, char* resolved) noexcept {
     return passOn("realpath", static_cast<char*>(nullptr), path, resolved);
 }
 
-FILE* fopen64(char const* path, char const* mode) {
-    return passOn("fopen64", static_cast<FILE*>(nullptr), path, mode);
+int open(char const* path, int flags, ...) {
+    std::va_list rest;
+    va_start(rest, flags);
+    mode_t const mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
+    va_end(rest);
+    return passOn("open", -1, path, flags, mode);
 }
 
 /// A file that does not close well is closed all the same.
-int fclose(FILE* file) {
-    int const closed = passOn("fclose", EOF, file);
-    if (closed == EOF && counting && static_cast<int>(called.size()) == failing) {
+int close(int file) {
+    int const closed = passOn("close", -1, file);
+    if (closed == -1 && counting && static_cast<int>(called.size()) == failing) {
         counting = false;
-        passOn("fclose", EOF, file);
+        passOn("close", -1, file);
         counting = true;
     }
     return closed;
@@ -104,9 +109,5 @@ ssize_t read(int descriptor, void* buffer, std::size_t size) {
 
 ssize_t write(int descriptor, void const* buffer, std::size_t size) {
     return passOn("write", ssize_t{-1}, descriptor, buffer, size);
-}
-
-ssize_t writev(int descriptor, iovec const* parts, int count) {
-    return passOn("writev", ssize_t{-1}, descriptor, parts, count);
 }
 }

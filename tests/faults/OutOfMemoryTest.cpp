@@ -340,8 +340,6 @@ TEST_F(OutOfMemoryWithFiles, EveryOperationOnFilesAndFoldersEndsTheProcess) {
              std::string text;
              drop(File::ReadStringFromFile(text, "word"));
          }},
-        {"append", [](Nothing&) { drop(File::WriteStringToFile("more", "./other", true)); }},
-        {"replace", [](Nothing&) { drop(File::WriteStringToFile("more", "./other", false)); }},
         {"make",
          [](Nothing&) {
              drop(Folder::MakeDirectory("a folder with a long name/another folder in it"));

@@ -1,7 +1,8 @@
 // A global locale of C++ that differs in all that streams and character functions take from one.
 #pragma once
 
-#include <cwchar>
+#include "ShiftedBytes.h"
+
 #include <locale>
 #include <string>
 #include <vector>
@@ -38,26 +39,12 @@ class StrangeCharacters : public std::ctype<char> {
     }
 };
 
-/// Adds one to each byte written.
-class StrangeEncoding : public std::codecvt<char, char, std::mbstate_t> {
-  protected:
-    [[nodiscard]] bool do_always_noconv() const noexcept override { return false; }
-    result do_out(std::mbstate_t& /*state*/, char const* from, char const* fromEnd,
-                  char const*& fromNext, char* to, char* toEnd, char*& toNext) const override {
-        for (; from != fromEnd && to != toEnd; ++from, ++to)
-            *to = static_cast<char>(*from + 1);
-        fromNext = from;
-        toNext = to;
-        return ok;
-    }
-};
-
 class StrangeLocale {
   public:
     StrangeLocale() {
         std::locale::global(std::locale(std::locale(std::locale(previous_, new StrangeNumbers),  //
                                                     new StrangeCharacters),
-                                        new StrangeEncoding));
+                                        new ShiftedBytes));
     }
     StrangeLocale(StrangeLocale const&) = delete;
     StrangeLocale& operator=(StrangeLocale const&) = delete;

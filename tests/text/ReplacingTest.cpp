@@ -208,6 +208,19 @@ TEST(Replacing, RemovingAgreesWithThePlainRescan) {
     }
 }
 
+TEST(Replacing, TheLastOccurrenceIsFoundAtEveryPlaceOfTextsOfAllLengths) {
+    for (std::size_t length = 2; length < 150; ++length) {
+        for (std::size_t place = 0; place + 2 <= length; ++place) {
+            std::string text(length, 'x');
+            text.replace(0, 2, "ab");
+            text.replace(place, 2, "ab");
+            std::string expected = text;
+            expected.replace(place, 2, "...");
+            ASSERT_EQ(CharFunctions::ReplaceLastOccurence(text.c_str(), "ab", "..."), expected);
+        }
+    }
+}
+
 TEST(Replacing, TheLastOccurrenceIsFoundInPeriodicTexts) {
     RandomTexts texts{std::mt19937(5), 2};
     for (int i = 0; i < 50000; ++i) {

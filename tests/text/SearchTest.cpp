@@ -205,6 +205,21 @@ TEST(Search, SetsOfAllSizesAgreeWithThePlainSteps) {
     }
 }
 
+TEST(Search, TheLastMemberOfASetIsFoundAtEveryPlaceOfTextsOfAllLengths) {
+    for (char const* set : {"\xE9", "#\xE9", "1234567\xE9", "12345678\xE9"}) {
+        for (std::size_t length = 0; length < 150; ++length) {
+            std::string text(length, 'x');
+            EXPECT_EQ(CharFunctions::IndexOfLastOccurence(text.c_str(), set), -1) << length;
+            // The places behind each are empty again.
+            for (std::size_t place = length; place-- > 0; text[place] = 'x') {
+                text[0] = text[place] = '\xE9';
+                ASSERT_EQ(CharFunctions::IndexOfLastOccurence(text.c_str(), set), place)
+                    << set << ", " << length;
+            }
+        }
+    }
+}
+
 TEST(Search, TheLastOfEveryMemberOfASetIsFound) {
     std::string const members = "0123456789\xE9";
     for (std::size_t size = 1; size <= members.size(); ++size) {

@@ -60,6 +60,20 @@ TEST(Date, AddsAndSubtractsUnsignedAmountsAndReturnsItself) {
     EXPECT_EQ(date.GetMillisecondsSinceEpoch(), -1);
 }
 
+TEST(Date, IsReckonedWithWhileCompiling) {
+    constexpr Date date = [] {
+        Date moved(500);
+        moved += 1500;
+        moved -= 1;
+        moved.AddSeconds(-2);
+        moved.AddMinutes(1);
+        moved.AddHours(-1);
+        moved.AddDays(1);
+        return moved;
+    }();
+    static_assert(date == Date(86400000 - 3600000 + 60000 - 1));
+}
+
 TEST(Date, SubtractingOneFromTheEpochGivesMinusOne) {
     Date date;
     date -= 1;

@@ -1,6 +1,8 @@
 // Reading day-month-year text.
 #include "qel/Date.h"
 
+#include "qel/CharFunctions.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -71,6 +73,21 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(TheLengthOfTheMonthIsNotLookedAt, DayMonthYear,
                          testing::Values(Row{"31/02/2012", 31, 2, 2012, true},
                                          Row{"29/02/2011", 29, 2, 2011, true}));
+
+TEST(DayMonthYearField, OfTwoCharactersIsWhatIsUnsignedIntAndGetIntValueReadOfIt) {
+    std::string text = "..112012";
+    for (int first = 1; first < 256; ++first) {
+        for (int second = 1; second < 256; ++second) {
+            text[0] = static_cast<char>(first);
+            text[1] = static_cast<char>(second);
+            std::string const field = text.substr(0, 2);
+            int const expected = qel::CharFunctions::IsUnsignedInt(field.c_str())
+                                     ? qel::CharFunctions::GetIntValue(field.c_str())
+                                     : -1;
+            ASSERT_EQ(Date::GetDay(text.c_str()), expected) << field;
+        }
+    }
+}
 
 TEST(DateFromText, IsNoonOfTheDay) {
     EXPECT_EQ(Date("21/11/2012"), Date(2012, 11, 21, 12, 0, 0, 0));
