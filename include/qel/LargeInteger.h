@@ -166,7 +166,15 @@ class LargeInteger {
     /// Compares the magnitudes: 1, 0 or -1.
     [[nodiscard]] int compareAbsolute(LargeInteger const& other) const noexcept;
     /// Compares the values: 1, 0 or -1.
-    [[nodiscard]] int compare(LargeInteger const& other) const noexcept;
+    [[nodiscard]] int compare(LargeInteger const& other) const noexcept {
+        // Two values of the same width mostly differ in their highest limbs.
+        if (highestBit == other.highestBit && highestBit >= 0 && !negative && !other.negative) {
+            int const i = highestBit / bitsPerLimb;
+            if (data[i] != other.data[i] && leading() == 1 && other.leading() == 1)
+                return data[i] > other.data[i] ? 1 : -1;
+        }
+        return compareAll(other);
+    }
     /// True for equal values, whatever flag a zero carries.
     [[nodiscard]] bool operator==(LargeInteger const& other) const noexcept {
         return data[0] == other.data[0] && isSame(other);
@@ -366,6 +374,7 @@ class LargeInteger {
     void freeMemory() noexcept;
     void swapOwnLimbs(LargeInteger& other) noexcept;
     [[nodiscard]] int findHighestBit() const noexcept;
+    [[nodiscard]] int compareAll(LargeInteger const& other) const noexcept;
     [[nodiscard]] bool isSame(LargeInteger const& other) const noexcept;
     LargeInteger& addOne() noexcept;
     LargeInteger& subtractOne() noexcept;

@@ -18,7 +18,7 @@ bool LargeInteger::isSame(LargeInteger const& other) const noexcept {
     return std::memcmp(data, other.data, limbCount(top) * sizeof(Limb)) == 0;
 }
 
-int LargeInteger::compare(LargeInteger const& other) const noexcept {
+int LargeInteger::compareAll(LargeInteger const& other) const noexcept {
     if (negative == other.negative) {
         int const absolute = compareAbsolute(other);
         return negative ? -absolute : absolute;

@@ -54,7 +54,7 @@ class CandidateWalk {
     CandidateWalk(LargeInteger const& first, int bitCount, int witnessLimit,
                   Workspace& workspace) noexcept
         : count(limbsFor(bitCount)), witnessCount(witnessLimit), most(numbersAtOnce(count)),
-          start(workspace.take(count)), screeningSpace(workspace.take(screeningScratch(count))),
+          start(workspace.take(count)), screeningSpace(workspace.take(count)),
           testSpace(workspace.take(witnessScratch(count))),
           screening(loaded(first, start, count), count, witnessCount,
                     worthwhileLimit(bitCount, most), screeningSpace) {
@@ -64,7 +64,7 @@ class CandidateWalk {
 
     static std::size_t limbsNeeded(int bitCount) noexcept {
         std::size_t const count = limbsFor(bitCount);
-        return (1 + mostNumbersAtOnce) * count + screeningScratch(count) + witnessScratch(count);
+        return (2 + mostNumbersAtOnce) * count + witnessScratch(count);
     }
 
     /// The highest bit of the even number where the walk goes on.

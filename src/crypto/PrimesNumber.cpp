@@ -52,10 +52,10 @@ bool PrimesNumber::isProbablyPrime(LargeInteger const& n, int witnessCount) noex
 
     Magnitude const magnitude = Representation::magnitude(n);
     std::size_t const count = magnitude.count();
-    Workspace workspace(count + screeningScratch(count) + witnessScratch(count));
+    Workspace workspace(2 * count + witnessScratch(count));
     limbs::Limb* const number = workspace.take(count);
     loadLimbs(number, count, magnitude);
-    if (isStruck(number, count, witnessCount, workspace.take(screeningScratch(count))))
+    if (isStruck(number, count, witnessCount, workspace.take(count)))
         return false;
     limbs::Limb const* const numbers[] = {number};
     return indexOfPassing(numbers, count, witnessCount, workspace.rest()) == 0;

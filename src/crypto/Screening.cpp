@@ -65,13 +65,9 @@ bool isStruckByDivisors(Limb const* n, std::size_t count) noexcept {
     return false;
 }
 
-std::size_t screeningScratch(std::size_t count) noexcept {
-    return 2 * count;
-}
-
 Screening::Screening(Limb const* start, std::size_t limbCount, int witnessCount, Limb limit,
                      Limb* scratch) noexcept
-    : number(scratch), count(limbCount), quotient(scratch + limbCount), witnesses(witnessCount),
+    : number(scratch), count(limbCount), witnesses(witnessCount),
       primeCount(primesBelow(limit, witnessCount)) {
     std::copy(start, start + count, number);
     takeResidues({residues.data(), primeCount}, primes.divisors, primes.groups.data(), number,
@@ -107,9 +103,9 @@ Screening::Window Screening::window(int length) noexcept {
 /// there at the latest. What holds modulo n holds modulo the factor r, where by Fermat
 /// a^(n-1) = a^((n-1) mod (r-1)). Nothing more is known: a composite that fools the witnesses must
 /// be returned.
-bool Screening::isRefused(unsigned int offset, unsigned int factor) noexcept {
+bool Screening::isRefused(unsigned int offset, unsigned int factor) const noexcept {
     Limb const rest =
-        limbs::divideLimb(quotient, number, limbs::significant(number, count), Limb{factor} - 1);
+        limbs::remainderLimb(number, limbs::significant(number, count), Limb{factor} - 1);
     Limb const exponent = (rest + offset) % (factor - 1);
     int const tried = std::min(witnesses, 3);
     for (int j = 1; j <= tried; ++j) {

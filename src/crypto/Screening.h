@@ -24,7 +24,7 @@ class Screening {
     /// @param start even, 2048 or more, `limbCount` limbs, with room for as far as the walk goes
     /// @param witnessCount that of the test; with 0 or less only factors up to 23 strike
     /// @param limit the primes below it are looked at as factors, as far as they are small primes
-    /// @param scratch screeningScratch(limbCount) limbs, which the walk keeps
+    /// @param scratch limbCount limbs, which the walk keeps
     Screening(limbs::Limb const* start, std::size_t limbCount, int witnessCount, limbs::Limb limit,
               limbs::Limb* scratch) noexcept;
 
@@ -35,16 +35,13 @@ class Screening {
     [[nodiscard]] limbs::Limb const* base() const noexcept { return number; }
 
   private:
-    [[nodiscard]] bool isRefused(unsigned int offset, unsigned int factor) noexcept;
+    [[nodiscard]] bool isRefused(unsigned int offset, unsigned int factor) const noexcept;
 
     limbs::Limb* number;
     std::size_t count;
-    limbs::Limb* quotient;
     int witnesses;
     std::size_t primeCount;
     std::array<std::uint16_t, smallPrimes.size()> residues;
 };
-
-std::size_t screeningScratch(std::size_t count) noexcept;
 
 }  // namespace qel::internal

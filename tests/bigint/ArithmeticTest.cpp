@@ -226,4 +226,47 @@ TEST(Arithmetic, OperandsStayAsTheyWere) {
     EXPECT_EQ(books(b), (Books{4, 3, true}));
 }
 
+/// `value` with room for a word, under an exact bound or one that is too high.
+void prepare(LargeInteger& v, LargeInteger const& value, int word, bool stale) {
+    v = value;
+    v.ensureSize(word);
+    if (stale)
+        makeStale(v, value.getHighestBit() + 40);
+}
+
+void expectStepsOfOne(LargeInteger const& value, int word, bool stale) {
+    SCOPED_TRACE("0x" + value.toString(16) + ", room for word " + std::to_string(word)
+                 + (stale ? ", stale" : ""));
+    LargeInteger stepped;
+    LargeInteger summed;
+    for (bool const up : {true, false}) {
+        prepare(stepped, value, word, stale);
+        prepare(summed, value, word, stale);
+        if (up) {
+            ++stepped;
+            summed += LargeInteger(1);
+        } else {
+            --stepped;
+            summed -= LargeInteger(1);
+        }
+        EXPECT_EQ(books(stepped), books(summed)) << (up ? "up" : "down");
+        EXPECT_EQ(stepped, summed) << (up ? "up" : "down");
+    }
+}
+
+// Most steps are taken without asking what a sum asks.
+TEST(Arithmetic, AStepLeavesTheBooksOfASum) {
+    for (int const bits : {1, 2, 31, 32, 33, 63, 64, 65, 95, 96, 97, 127, 128, 160, 288, 320}) {
+        LargeInteger const power = powerOfTwo(bits);
+        LargeInteger const below = power - LargeInteger(1);
+        for (LargeInteger const& value :
+             {power, below, below - LargeInteger(1), -power, LargeInteger(0), negativeZero()}) {
+            for (int word = 0; word < 14; ++word) {
+                expectStepsOfOne(value, word, false);
+                expectStepsOfOne(value, word, true);
+            }
+        }
+    }
+}
+
 }  // namespace

@@ -21,8 +21,7 @@ class Walk {
   public:
     Walk(LargeInteger const& base, int witnessCount, Limb limit = smallPrimeLimit)
         : count(static_cast<std::size_t>(base.getHighestBit()) / 64 + 2), start(count),
-          scratch(screeningScratch(count)),
-          screening(filled(base), count, witnessCount, limit, scratch.data()) {}
+          scratch(count), screening(filled(base), count, witnessCount, limit, scratch.data()) {}
 
     Screening* operator->() { return &screening; }
 

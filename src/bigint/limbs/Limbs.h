@@ -42,9 +42,7 @@ Limb subtractLimb(Limb* out, Limb const* a, std::size_t count, Limb borrow) noex
     auto const isSameBlock = [=](Limb const* x, Limb const* y) {
         return ((x[0] ^ y[0]) | (x[1] ^ y[1]) | (x[2] ^ y[2]) | (x[3] ^ y[3])) == 0;
     };
-    if (count > 0 && a[count - 1] != b[count - 1])
-        return a[count - 1] > b[count - 1] ? 1 : -1;
-    while (count > 2 * block && isSameBlock(a + count - block, b + count - block))
+    while (count > block && isSameBlock(a + count - block, b + count - block))
         count -= block;
     while (count > 0 && a[count - 1] == b[count - 1])
         --count;
