@@ -145,9 +145,12 @@ int LargeInteger::findNextSetBit(int start) const noexcept {
     if (from > highestBit)
         return -1;
     std::size_t i = limbIndex(from);
+    std::size_t const last = limbIndex(highestBit);
     Limb limb = data[i] & (~Limb{0} << (from % limbs::bitsPerLimb));
     while (limb == 0) {
-        if (++i > limbIndex(highestBit))
+        while (i + 4 <= last && (data[i + 1] | data[i + 2] | data[i + 3] | data[i + 4]) == 0)
+            i += 4;
+        if (++i > last)
             return -1;
         limb = data[i];
     }

@@ -37,7 +37,7 @@ LargeInteger& LargeInteger::operator&=(LargeInteger const& b) noexcept {
 LargeInteger& LargeInteger::operator|=(LargeInteger const& b) noexcept {
     if (b.highestBit < 0)
         return *this;
-    ensureSize(wordIndex(b.highestBit));
+    Representation::reserve(*this, wordIndex(b.highestBit));
     std::transform(data, data + limbCount(b.highestBit), b.data, data, std::bit_or<>());
     Representation::refreshHighestBit(*this, std::max(highestBit, b.highestBit));
     return *this;
@@ -46,7 +46,7 @@ LargeInteger& LargeInteger::operator|=(LargeInteger const& b) noexcept {
 LargeInteger& LargeInteger::operator^=(LargeInteger const& b) noexcept {
     if (b.highestBit < 0)
         return *this;
-    ensureSize(wordIndex(b.highestBit));
+    Representation::reserve(*this, wordIndex(b.highestBit));
     std::transform(data, data + limbCount(b.highestBit), b.data, data, std::bit_xor<>());
     Representation::refreshHighestBit(*this, std::max(highestBit, b.highestBit));
     return *this;

@@ -81,7 +81,7 @@ void internal::Representation::shiftBy(LargeInteger& a, long long distance, int 
 void internal::Representation::shiftLeft(LargeInteger& a, long long count) noexcept {
     Magnitude const old = magnitude(a);
     requireIndex(old.top + count);
-    a.ensureSize(wordIndex(a.highestBit + count) + 1);
+    reserve(a, wordIndex(a.highestBit + count) + 1);
     if (old.top < 0) {
         a.highestBit = -1;
         return;

@@ -160,6 +160,23 @@ TEST(Bits, SearchesSkipTheZerosBelowAStaleBound) {
     EXPECT_EQ(v.countNumberOfSetBits(), 2);
 }
 
+// Zeros are passed over four limbs at a time.
+TEST(Bits, TheNextSetBitIsFoundBehindAnyNumberOfZeroLimbs) {
+    for (int limbs = 0; limbs < 14; ++limbs) {
+        for (int const bit : {0, 1, 63}) {
+            int const position = 64 * limbs + 64 + bit;
+            LargeInteger v = powerOfTwo(position);
+            v.setBit(3);
+            for (int const start : {4, 63, 64, position})
+                EXPECT_EQ(v.findNextSetBit(start), position) << start;
+            EXPECT_EQ(v.findNextSetBit(position + 1), -1);
+            v.clearBit(position);  // the bound stays
+            EXPECT_EQ(v.findNextSetBit(3), 3);
+            EXPECT_EQ(v.findNextSetBit(4), -1) << position;
+        }
+    }
+}
+
 TEST(Bits, AClearBitIsFoundUpToOneAboveTheBound) {
     LargeInteger v = hex("ffffffffff");
     EXPECT_EQ(v.findNextClearBit(0), 40);
