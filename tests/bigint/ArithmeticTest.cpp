@@ -255,7 +255,7 @@ void expectStepsOfOne(LargeInteger const& value, int word, bool stale) {
 }
 
 // Most steps are taken without asking what a sum asks.
-TEST(Arithmetic, AStepLeavesTheBooksOfASum) {
+TEST(Arithmetic, AStepLeavesWhatASumLeaves) {
     for (int const bits : {1, 2, 31, 32, 33, 63, 64, 65, 95, 96, 97, 127, 128, 160, 288, 320}) {
         LargeInteger const power = powerOfTwo(bits);
         LargeInteger const below = power - LargeInteger(1);
