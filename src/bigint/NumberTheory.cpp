@@ -195,11 +195,11 @@ void LargeInteger::inverseModulo(LargeInteger const& m) noexcept {
 
 /// Becomes the inverse of its value, for 1 < value < m; false, and unchanged, when there is none.
 ///
-/// The books are those of the extended Euclid's last coefficient d before its reduction. With
-/// s m + t v = 1 for this value v, d is t + s m = 1 - t (v - 1), since the coefficients start from
-/// m and 1 instead of 0 and 1; and |t| <= m / 2, as Euclid's are. So t is the inverse i or i - m,
-/// whichever is smaller in size. A negative t makes d positive, which then keeps its own bound; a
-/// positive t makes d negative, and adding m leaves the bound of m.
+/// Bound and capacity are those of the extended Euclid's last coefficient d before its reduction.
+/// With s m + t v = 1 for this value v, d is t + s m = 1 - t (v - 1), since the coefficients start
+/// from m and 1 instead of 0 and 1; and |t| <= m / 2, as Euclid's are. So t is the inverse i or i -
+/// m, whichever is smaller in size. A negative t makes d positive, which then keeps its own bound;
+/// a positive t makes d negative, and adding m leaves the bound of m.
 bool internal::Representation::invert(LargeInteger& a, Magnitude value,
                                       Magnitude divisor) noexcept {
     std::size_t const count = limbCount(divisor.top);

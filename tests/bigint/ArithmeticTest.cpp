@@ -30,9 +30,9 @@ TEST(Arithmetic, SignsOfSumsAndDifferences) {
     EXPECT_EQ(LargeInteger(-5) - LargeInteger(7), LargeInteger(-12));
     EXPECT_EQ(LargeInteger(7) - LargeInteger(-5), LargeInteger(12));
     EXPECT_EQ(LargeInteger(-7) + LargeInteger(5), LargeInteger(-2));
-    EXPECT_EQ(books(LargeInteger(5) + LargeInteger(-5)), (Books{4, -1, false}));
-    EXPECT_EQ(books(LargeInteger(-5) + LargeInteger(5)), (Books{4, -1, false}));
-    EXPECT_EQ(books(LargeInteger(-5) - LargeInteger(-5)), (Books{4, -1, false}));
+    EXPECT_EQ(representation(LargeInteger(5) + LargeInteger(-5)), (Representation{4, -1, false}));
+    EXPECT_EQ(representation(LargeInteger(-5) + LargeInteger(5)), (Representation{4, -1, false}));
+    EXPECT_EQ(representation(LargeInteger(-5) - LargeInteger(-5)), (Representation{4, -1, false}));
 }
 
 TEST(Arithmetic, ACarryGoesIntoTheNextWord) {
@@ -40,7 +40,7 @@ TEST(Arithmetic, ACarryGoesIntoTheNextWord) {
     v += LargeInteger(1);
     EXPECT_EQ(v, powerOfTwo(32));
     // The bound before the scan was 32, the top word visited 2: six words.
-    EXPECT_EQ(books(v), (Books{6, 32, false}));
+    EXPECT_EQ(representation(v), (Representation{6, 32, false}));
 }
 
 TEST(Arithmetic, ACarryRunsThroughManyWords) {
@@ -51,21 +51,21 @@ TEST(Arithmetic, ACarryRunsThroughManyWords) {
 TEST(Arithmetic, AdditionRaisesTheBoundByOneAndRescans) {
     LargeInteger v(1);
     v += LargeInteger(1);
-    EXPECT_EQ(books(v), (Books{4, 1, false}));
+    EXPECT_EQ(representation(v), (Representation{4, 1, false}));
     makeStale(v, 61);
     v += LargeInteger(1);  // bound 62: the top word visited is 2
-    EXPECT_EQ(books(v), (Books{6, 1, false}));
+    EXPECT_EQ(representation(v), (Representation{6, 1, false}));
     LargeInteger narrow(1);
     makeStale(narrow, 30);
     narrow += LargeInteger(1);  // bound 31: the top word visited is 1
-    EXPECT_EQ(books(narrow), (Books{4, 1, false}));
+    EXPECT_EQ(representation(narrow), (Representation{4, 1, false}));
 }
 
 TEST(Arithmetic, SubtractionLeavesTheBoundStale) {
     LargeInteger v = powerOfTwo(64);
     v -= LargeInteger(powerOfTwo(64) - LargeInteger(1));
     EXPECT_EQ(v.getHighestBit(), 0);
-    EXPECT_EQ(books(v).highestBit, 64);
+    EXPECT_EQ(representation(v).highestBit, 64);
     EXPECT_EQ(v, LargeInteger(1));
 }
 
@@ -74,7 +74,7 @@ TEST(Arithmetic, SubtractingTheLargerTakesItsBufferAndNegates) {
     LargeInteger v(1);
     v -= large;
     // The buffer and the bound are those of a copy of the larger operand.
-    EXPECT_EQ(books(v), (Books{7, 200, true}));
+    EXPECT_EQ(representation(v), (Representation{7, 200, true}));
     EXPECT_EQ(v, -powerOfTwo(200));
 }
 
@@ -103,15 +103,15 @@ TEST(Arithmetic, AnyZeroMinusFiveIsMinusFive) {
 
 TEST(Arithmetic, ANegativeZeroMinusANegativeKeepsItsFlagInTheSum) {
     EXPECT_EQ(negativeZero() - LargeInteger(-5), LargeInteger(-5));
-    EXPECT_EQ(books(negativeZero() + LargeInteger(0)), (Books{4, -1, true}));
-    EXPECT_EQ(books(negativeZero() - LargeInteger(0)), (Books{4, -1, true}));
+    EXPECT_EQ(representation(negativeZero() + LargeInteger(0)), (Representation{4, -1, true}));
+    EXPECT_EQ(representation(negativeZero() - LargeInteger(0)), (Representation{4, -1, true}));
 }
 
 TEST(Arithmetic, UnaryMinusOfAnyZeroIsAPlainZero) {
     EXPECT_EQ(-LargeInteger(5), LargeInteger(-5));
     EXPECT_EQ(-LargeInteger(-5), LargeInteger(5));
-    EXPECT_EQ(books(-LargeInteger(0)), (Books{4, -1, false}));
-    EXPECT_EQ(books(-negativeZero()), (Books{4, -1, false}));
+    EXPECT_EQ(representation(-LargeInteger(0)), (Representation{4, -1, false}));
+    EXPECT_EQ(representation(-negativeZero()), (Representation{4, -1, false}));
 }
 
 TEST(Arithmetic, IncrementAndDecrementCrossZero) {
@@ -147,13 +147,13 @@ TEST(Arithmetic, SquaringInPlaceKeepsTheSign) {
 }
 
 TEST(Arithmetic, AZeroProductIsZeroButMayCarryAFlag) {
-    EXPECT_EQ(books(LargeInteger(-3) * LargeInteger(0)), (Books{4, -1, true}));
-    EXPECT_EQ(books(LargeInteger(0) * LargeInteger(-3)), (Books{4, -1, true}));
-    EXPECT_EQ(books(LargeInteger(0) * LargeInteger(3)), (Books{4, -1, false}));
-    EXPECT_EQ(books(LargeInteger(0) * LargeInteger(0)), (Books{4, -1, false}));
+    EXPECT_EQ(representation(LargeInteger(-3) * LargeInteger(0)), (Representation{4, -1, true}));
+    EXPECT_EQ(representation(LargeInteger(0) * LargeInteger(-3)), (Representation{4, -1, true}));
+    EXPECT_EQ(representation(LargeInteger(0) * LargeInteger(3)), (Representation{4, -1, false}));
+    EXPECT_EQ(representation(LargeInteger(0) * LargeInteger(0)), (Representation{4, -1, false}));
     // A negative zero is not negative: its flag does not count.
-    EXPECT_EQ(books(negativeZero() * LargeInteger(3)), (Books{4, -1, false}));
-    EXPECT_EQ(books(LargeInteger(3) * negativeZero()), (Books{4, -1, false}));
+    EXPECT_EQ(representation(negativeZero() * LargeInteger(3)), (Representation{4, -1, false}));
+    EXPECT_EQ(representation(LargeInteger(3) * negativeZero()), (Representation{4, -1, false}));
 }
 
 TEST(Arithmetic, AProductKeepsTheBufferItsPartialSumsGrew) {
@@ -162,16 +162,16 @@ TEST(Arithmetic, AProductKeepsTheBufferItsPartialSumsGrew) {
     v *= ones;
     // The first partial sum has bound 64, so words up to 3 are visited: seven words, and those
     // are enough for the last one, whose bound 127 visits words up to 4.
-    EXPECT_EQ(books(v), (Books{7, 127, false}));
+    EXPECT_EQ(representation(v), (Representation{7, 127, false}));
     EXPECT_EQ(v, powerOfTwo(128) - powerOfTwo(65) + LargeInteger(1));
-    EXPECT_EQ(books(ones * ones), (Books{4, 127, false}));
+    EXPECT_EQ(representation(ones * ones), (Representation{4, 127, false}));
 }
 
 TEST(Arithmetic, MultiplyingByOneLeavesAFreshBuffer) {
     LargeInteger one(1);
     one.ensureSize(100);
     one *= LargeInteger(9);
-    EXPECT_EQ(books(one), (Books{4, 3, false}));
+    EXPECT_EQ(representation(one), (Representation{4, 3, false}));
 }
 
 TEST(Arithmetic, OneTimesAVeryWideNumberIsThatNumber) {
@@ -185,11 +185,12 @@ TEST(Arithmetic, OneTimesAVeryWideNumberIsThatNumber) {
 TEST(Arithmetic, BinaryOperatorsReturnTightCopiesWithExactBounds) {
     LargeInteger const a = powerOfTwo(64);
     LargeInteger const b = powerOfTwo(64) - LargeInteger(1);
-    EXPECT_EQ(books(a - b), (Books{4, 0, false}));
+    EXPECT_EQ(representation(a - b), (Representation{4, 0, false}));
     LargeInteger const c = powerOfTwo(200);
-    EXPECT_EQ(books(c - LargeInteger(1)), (Books{7, 199, false}));
-    EXPECT_EQ(books(c - c), (Books{7, -1, false}));  // sized by the bound that subtraction left
-    EXPECT_EQ(books(c + c), (Books{7, 201, false}));
+    EXPECT_EQ(representation(c - LargeInteger(1)), (Representation{7, 199, false}));
+    EXPECT_EQ(representation(c - c),
+              (Representation{7, -1, false}));  // sized by the bound that subtraction left
+    EXPECT_EQ(representation(c + c), (Representation{7, 201, false}));
 }
 
 TEST(Arithmetic, AddingTheObjectToItselfDoublesIt) {
@@ -223,7 +224,7 @@ TEST(Arithmetic, OperandsStayAsTheyWere) {
     (void)(a * b);
     EXPECT_EQ(a, LargeInteger(-7));
     EXPECT_EQ(b, LargeInteger(-9));
-    EXPECT_EQ(books(b), (Books{4, 3, true}));
+    EXPECT_EQ(representation(b), (Representation{4, 3, true}));
 }
 
 /// `value` with room for a word, under an exact bound or one that is too high.
@@ -249,7 +250,7 @@ void expectStepsOfOne(LargeInteger const& value, int word, bool stale) {
             --stepped;
             summed -= LargeInteger(1);
         }
-        EXPECT_EQ(books(stepped), books(summed)) << (up ? "up" : "down");
+        EXPECT_EQ(representation(stepped), representation(summed)) << (up ? "up" : "down");
         EXPECT_EQ(stepped, summed) << (up ? "up" : "down");
     }
 }

@@ -27,7 +27,7 @@ TEST(Bits, SettingANegativePositionChangesNothing) {
     v.setBit(-1, true);
     v.setBit(INT_MIN);
     EXPECT_EQ(v, LargeInteger(-6));
-    EXPECT_EQ(books(v), (Books{4, 2, true}));
+    EXPECT_EQ(representation(v), (Representation{4, 2, true}));
 }
 
 TEST(Bits, ClearingOutsideTheValueChangesNothing) {
@@ -36,14 +36,14 @@ TEST(Bits, ClearingOutsideTheValueChangesNothing) {
     v.clearBit(3);
     v.clearBit(INT_MAX);
     v.setBit(INT_MAX, false);
-    EXPECT_EQ(books(v), (Books{4, 2, true}));
+    EXPECT_EQ(representation(v), (Representation{4, 2, true}));
     EXPECT_EQ(v, LargeInteger(-6));
 }
 
 TEST(Bits, ClearingTheLastBitKeepsBoundAndFlag) {
     LargeInteger v(-4);
     v.setBit(2, false);
-    EXPECT_EQ(books(v), (Books{4, 2, true}));
+    EXPECT_EQ(representation(v), (Representation{4, 2, true}));
     EXPECT_TRUE(v.isZero());
     EXPECT_FALSE(v.isNegative());
 }
@@ -52,7 +52,7 @@ TEST(Bits, ARangeIsSetBitByBitSoItGrowsInSteps) {
     LargeInteger v;
     v.setRange(0, 200, true);
     // Growth at bit 64 to 6 words, at bit 128 to 9; bit 199 at once would have made 12.
-    EXPECT_EQ(books(v), (Books{9, 199, false}));
+    EXPECT_EQ(representation(v), (Representation{9, 199, false}));
     EXPECT_EQ(v, powerOfTwo(200) - LargeInteger(1));
 }
 
@@ -60,7 +60,7 @@ TEST(Bits, AClearedRangeKeepsTheBound) {
     LargeInteger v = hex("ffff");
     v.setRange(8, 100, false);
     EXPECT_EQ(v, LargeInteger(0xFF));
-    EXPECT_EQ(books(v).highestBit, 15);
+    EXPECT_EQ(representation(v).highestBit, 15);
     v.setRange(-5, 7, false);
     EXPECT_EQ(v, LargeInteger(0xFC));
     v.setRange(INT_MAX, INT_MAX, false);
@@ -128,7 +128,7 @@ TEST(Bits, WritingZerosAboveTheValueDoesNotGrowIt) {
     LargeInteger v(5);
     v.setBitRangeAsInt(300, 32, 0);
     v.setBitRangeAsInt(INT_MAX, 32, 0);
-    EXPECT_EQ(books(v), (Books{4, 2, false}));
+    EXPECT_EQ(representation(v), (Representation{4, 2, false}));
 }
 
 TEST(Bits, ASubrangeIsANewValueWithAnExactBound) {
@@ -136,8 +136,8 @@ TEST(Bits, ASubrangeIsANewValueWithAnExactBound) {
     LargeInteger const middle = v.getBitRange(12, 64);
     EXPECT_EQ(middle.toString(16), "6789abcdef0fedcb");
     // Grown for word 64 / 32 = 2.
-    EXPECT_EQ(books(middle), (Books{6, 62, false}));
-    EXPECT_EQ(books(v.getBitRange(12, 63)), (Books{4, 62, false}));
+    EXPECT_EQ(representation(middle), (Representation{6, 62, false}));
+    EXPECT_EQ(representation(v.getBitRange(12, 63)), (Representation{4, 62, false}));
 }
 
 TEST(Bits, ASubrangeOutsideTheValueIsZero) {
@@ -145,7 +145,7 @@ TEST(Bits, ASubrangeOutsideTheValueIsZero) {
     for (LargeInteger const& range :
          {v.getBitRange(8, 1), v.getBitRange(INT_MAX, INT_MAX), v.getBitRange(0, 0),
           v.getBitRange(0, -1), v.getBitRange(-1, 4), v.getBitRange(INT_MIN, INT_MAX)})
-        EXPECT_EQ(books(range), (Books{4, -1, false}));
+        EXPECT_EQ(representation(range), (Representation{4, -1, false}));
     EXPECT_EQ(v.getBitRange(7, INT_MAX), LargeInteger(1));
 }
 

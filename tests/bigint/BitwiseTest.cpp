@@ -34,9 +34,9 @@ TEST(Bitwise, TheRightSignIsIgnored) {
 }
 
 TEST(Bitwise, AZeroResultKeepsTheLeftFlag) {
-    EXPECT_EQ(books(LargeInteger(6) ^ LargeInteger(6)), (Books{4, -1, false}));
-    EXPECT_EQ(books(LargeInteger(-6) ^ LargeInteger(6)), (Books{4, -1, true}));
-    EXPECT_EQ(books(LargeInteger(-4) & LargeInteger(3)), (Books{4, -1, true}));
+    EXPECT_EQ(representation(LargeInteger(6) ^ LargeInteger(6)), (Representation{4, -1, false}));
+    EXPECT_EQ(representation(LargeInteger(-6) ^ LargeInteger(6)), (Representation{4, -1, true}));
+    EXPECT_EQ(representation(LargeInteger(-4) & LargeInteger(3)), (Representation{4, -1, true}));
     // Or makes a flagged zero a negative value.
     EXPECT_EQ(negativeZero() | LargeInteger(5), LargeInteger(-5));
 }
@@ -45,27 +45,27 @@ TEST(Bitwise, AndWithASmallerBufferClearsTheWordsAbove) {
     LargeInteger wide = powerOfTwo(300) + LargeInteger(7);
     wide &= LargeInteger(5);
     EXPECT_EQ(wide, LargeInteger(5));
-    EXPECT_EQ(books(wide).highestBit, 2);
-    for (int i = 1; i < books(wide).size; ++i)
+    EXPECT_EQ(representation(wide).highestBit, 2);
+    for (int i = 1; i < representation(wide).size; ++i)
         EXPECT_EQ(LargeIntegerPeer::word(wide, i), 0U) << i;
 }
 
 TEST(Bitwise, AndWithAWiderBufferKeepsItsOwn) {
     LargeInteger narrow(7);
     narrow &= powerOfTwo(300) + LargeInteger(5);
-    EXPECT_EQ(books(narrow), (Books{4, 2, false}));
+    EXPECT_EQ(representation(narrow), (Representation{4, 2, false}));
     EXPECT_EQ(narrow, LargeInteger(5));
 }
 
 TEST(Bitwise, OrAndXorGrowForTheOtherBound) {
     LargeInteger either(1);
     either |= powerOfTwo(200);
-    EXPECT_EQ(books(either), (Books{12, 200, false}));
+    EXPECT_EQ(representation(either), (Representation{12, 200, false}));
     LargeInteger difference(1);
     difference ^= powerOfTwo(200);
-    EXPECT_EQ(books(difference), (Books{12, 200, false}));
+    EXPECT_EQ(representation(difference), (Representation{12, 200, false}));
     difference ^= powerOfTwo(200);
-    EXPECT_EQ(books(difference), (Books{12, 0, false}));
+    EXPECT_EQ(representation(difference), (Representation{12, 0, false}));
 }
 
 TEST(Bitwise, OrWithAStaleBoundGrowsButGetsAnExactBound) {
@@ -73,7 +73,7 @@ TEST(Bitwise, OrWithAStaleBoundGrowsButGetsAnExactBound) {
     makeStale(stale, 200);
     LargeInteger v(4);
     v |= stale;
-    EXPECT_EQ(books(v), (Books{12, 2, false}));
+    EXPECT_EQ(representation(v), (Representation{12, 2, false}));
     EXPECT_EQ(v, LargeInteger(5));
 }
 
@@ -81,19 +81,19 @@ TEST(Bitwise, NothingHappensForABoundlessRightOperand) {
     LargeInteger v(5);
     makeStale(v, 100);
     v |= LargeInteger();
-    EXPECT_EQ(books(v).highestBit, 100);
+    EXPECT_EQ(representation(v).highestBit, 100);
     v ^= negativeZero();
-    EXPECT_EQ(books(v).highestBit, 100);
+    EXPECT_EQ(representation(v).highestBit, 100);
     v &= LargeInteger();
-    EXPECT_EQ(books(v).highestBit, -1);
+    EXPECT_EQ(representation(v).highestBit, -1);
 }
 
 TEST(Bitwise, ResultsOfBinaryOperatorsAreTightCopies) {
     LargeInteger stale(5);
     makeStale(stale, 200);
-    EXPECT_EQ(books(stale | LargeInteger(2)), (Books{4, 2, false}));
-    EXPECT_EQ(books(stale ^ LargeInteger()), (Books{4, 2, false}));
-    EXPECT_EQ(books(powerOfTwo(200) ^ powerOfTwo(200)), (Books{4, -1, false}));
+    EXPECT_EQ(representation(stale | LargeInteger(2)), (Representation{4, 2, false}));
+    EXPECT_EQ(representation(stale ^ LargeInteger()), (Representation{4, 2, false}));
+    EXPECT_EQ(representation(powerOfTwo(200) ^ powerOfTwo(200)), (Representation{4, -1, false}));
 }
 
 TEST(Bitwise, AnOperandMayBeTheObjectItself) {
@@ -105,7 +105,7 @@ TEST(Bitwise, AnOperandMayBeTheObjectItself) {
         EXPECT_EQ(v, LargeInteger(start));
         v ^= self(v);
         EXPECT_TRUE(v.isZero());
-        EXPECT_EQ(books(v), (Books{4, -1, start < 0}));
+        EXPECT_EQ(representation(v), (Representation{4, -1, start < 0}));
     }
 }
 

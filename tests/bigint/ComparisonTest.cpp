@@ -49,7 +49,7 @@ TEST(Comparison, AStaleBoundDoesNotMatter) {
     EXPECT_EQ(five, LargeInteger(5));
     EXPECT_EQ(zero.compareAbsolute(LargeInteger()), 0);
     EXPECT_TRUE(zero.isZero());
-    EXPECT_EQ(books(five).highestBit, 300);
+    EXPECT_EQ(representation(five).highestBit, 300);
 }
 
 TEST(Comparison, ANegativeZeroIsZero) {
@@ -82,7 +82,7 @@ TEST(Comparison, SetNegativeStoresTheFlagAsItIs) {
     EXPECT_EQ(v, LargeInteger(5));
     LargeInteger zero;
     zero.setNegative(true);
-    EXPECT_EQ(books(zero), (Books{4, -1, true}));
+    EXPECT_EQ(representation(zero), (Representation{4, -1, true}));
 }
 
 TEST(Comparison, NegateReturnsTheNewSignAndClearsAnyZero) {
@@ -93,10 +93,10 @@ TEST(Comparison, NegateReturnsTheNewSignAndClearsAnyZero) {
     EXPECT_EQ(v, LargeInteger(5));
     LargeInteger zero;
     EXPECT_FALSE(zero.negate());
-    EXPECT_EQ(books(zero), (Books{4, -1, false}));
+    EXPECT_EQ(representation(zero), (Representation{4, -1, false}));
     zero.setNegative(true);
     EXPECT_FALSE(zero.negate());
-    EXPECT_EQ(books(zero), (Books{4, -1, false}));
+    EXPECT_EQ(representation(zero), (Representation{4, -1, false}));
 }
 
 TEST(Comparison, ToIntegerDropsEverythingAbove31Bits) {

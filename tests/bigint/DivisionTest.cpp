@@ -1,4 +1,5 @@
-// Truncating division: values, signs, zeros, operands that are the same object, and the books.
+// Truncating division: values, signs, zeros, operands that are the same object, and the
+// representation.
 #include "LargeIntegerPeer.h"
 
 #include <gtest/gtest.h>
@@ -29,8 +30,8 @@ TEST(Division, ByZeroIsZeroWithAZeroRemainder) {
         LargeInteger quotient = -powerOfTwo(600);
         LargeInteger remainder = -powerOfTwo(600);
         quotient.divideBy(zero, remainder);
-        EXPECT_EQ(books(quotient), (Books{4, -1, false}));
-        EXPECT_EQ(books(remainder), (Books{4, -1, false}));
+        EXPECT_EQ(representation(quotient), (Representation{4, -1, false}));
+        EXPECT_EQ(representation(remainder), (Representation{4, -1, false}));
         EXPECT_EQ(LargeInteger(7) / zero, LargeInteger(0));
         EXPECT_EQ(LargeInteger(7) % zero, LargeInteger(0));
     }
@@ -40,16 +41,16 @@ TEST(Division, AZeroDividendResetsBothToAPlainZero) {
     LargeInteger quotient = negativeZero();
     LargeInteger remainder(-5);
     quotient.divideBy(LargeInteger(-3), remainder);
-    EXPECT_EQ(books(quotient), (Books{4, -1, false}));
-    EXPECT_EQ(books(remainder), (Books{4, -1, false}));
+    EXPECT_EQ(representation(quotient), (Representation{4, -1, false}));
+    EXPECT_EQ(representation(remainder), (Representation{4, -1, false}));
 }
 
 TEST(Division, ASmallerDividendIsTheWholeRemainder) {
     LargeInteger quotient(-1);
     LargeInteger remainder;
     quotient.divideBy(LargeInteger(5), remainder);
-    EXPECT_EQ(books(quotient), (Books{4, -1, true}));  // a negative zero
-    EXPECT_EQ(books(remainder), (Books{4, 0, true}));
+    EXPECT_EQ(representation(quotient), (Representation{4, -1, true}));  // a negative zero
+    EXPECT_EQ(representation(remainder), (Representation{4, 0, true}));
     EXPECT_EQ(remainder, LargeInteger(-1));
     // Shorter by far: the divisor's alignment shifts right, and nothing is subtracted.
     EXPECT_EQ(LargeInteger(7) / powerOfTwo(300), LargeInteger(0));
@@ -70,11 +71,11 @@ TEST(Division, TheRemainderKeepsTheDividendsBufferAndBound) {
     quotient.ensureSize(20);
     LargeInteger remainder = powerOfTwo(700);  // 22 words or more: released
     quotient.divideBy(LargeInteger(16), remainder);
-    EXPECT_EQ(books(remainder), (Books{33, 200, false}));
+    EXPECT_EQ(representation(remainder), (Representation{33, 200, false}));
     EXPECT_EQ(remainder, LargeInteger(1));
     EXPECT_EQ(quotient, powerOfTwo(196));
     // A fresh buffer of 4 words, grown for the first quotient bit at 196.
-    EXPECT_EQ(books(quotient), (Books{12, 196, false}));
+    EXPECT_EQ(representation(quotient), (Representation{12, 196, false}));
 }
 
 TEST(Division, TheQuotientTakesOverASmallRemainderBuffer) {
@@ -82,17 +83,17 @@ TEST(Division, TheQuotientTakesOverASmallRemainderBuffer) {
     LargeInteger remainder;
     remainder.ensureSize(9);  // 16 words: kept
     quotient.divideBy(LargeInteger(7), remainder);
-    EXPECT_EQ(books(quotient), (Books{16, 3, false}));
-    EXPECT_EQ(books(remainder), (Books{4, 6, false}));
+    EXPECT_EQ(representation(quotient), (Representation{16, 3, false}));
+    EXPECT_EQ(representation(remainder), (Representation{4, 6, false}));
 }
 
 TEST(Division, OperatorsReturnTightCopiesWithExactBounds) {
     LargeInteger const a = powerOfTwo(200) + LargeInteger(1);
-    EXPECT_EQ(books(a / LargeInteger(16)), (Books{7, 196, false}));
-    EXPECT_EQ(books(a % LargeInteger(16)), (Books{7, 0, false}));
+    EXPECT_EQ(representation(a / LargeInteger(16)), (Representation{7, 196, false}));
+    EXPECT_EQ(representation(a % LargeInteger(16)), (Representation{7, 0, false}));
     LargeInteger work(a);
     work %= LargeInteger(16);
-    EXPECT_EQ(books(work), (Books{7, 200, false}));
+    EXPECT_EQ(representation(work), (Representation{7, 200, false}));
 }
 
 // The divisor's highest limb is full, so that neither operand is shifted and the first digit is
@@ -179,7 +180,7 @@ TEST(Division, TheRemainderMayBeTheDivisorWhoseOldValueDivides) {
 
 /// What is left of a dividend that is its own remainder: a zero with the dividend's sign flag.
 void expectFlaggedZero(LargeInteger const& v, int size, bool flag) {
-    EXPECT_EQ(books(v), (Books{size, -1, flag}));
+    EXPECT_EQ(representation(v), (Representation{size, -1, flag}));
     EXPECT_TRUE(v.isZero());
 }
 
@@ -190,7 +191,7 @@ TEST(Division, ADividendThatIsItsOwnRemainderBecomesZeroWithItsSignFlag) {
             LargeInteger dividend = powerOfTwo(bits);
             dividend.setNegative(negative);
             // From a capacity of 17 words on, a reset releases the buffer.
-            int const size = books(dividend).size < 17 ? books(dividend).size : 4;
+            int const size = representation(dividend).size < 17 ? representation(dividend).size : 4;
 
             LargeInteger byAnother = dividend;
             LargeInteger divisor(-3);

@@ -35,9 +35,9 @@ TEST(DivisorCapacity, WithAZeroIsThatOfATightCopyWhateverTheBounds) {
                 EXPECT_EQ(divisorDifference(value, zero), "") << describe(value);
                 EXPECT_EQ(divisorDifference(zero, value), "") << describe(value);
                 EXPECT_EQ(divisorDifference(zero, zero), "") << describe(zero);
-                EXPECT_EQ(books(value.fast.findGreatestCommonDivisor(zero.fast)).size,
+                EXPECT_EQ(representation(value.fast.findGreatestCommonDivisor(zero.fast)).size,
                           std::max(4, bit / 32 + 1));
-                EXPECT_EQ(books(zero.fast.findGreatestCommonDivisor(zero.fast)).size, 4);
+                EXPECT_EQ(representation(zero.fast.findGreatestCommonDivisor(zero.fast)).size, 4);
             }
         }
     }

@@ -1,5 +1,5 @@
-// A look inside LargeInteger for its tests: the books it keeps beside the value, and values with
-// prepared books.
+// A look inside LargeInteger for its tests: what it keeps beside the value, and values with a
+// prepared representation.
 #pragma once
 
 #include "qel/LargeInteger.h"
@@ -34,25 +34,25 @@ using qel::LargeInteger;
 using qel::LargeIntegerPeer;
 
 /// The fields of a value other than its words.
-struct Books {
+struct Representation {
     int size;
     int highestBit;
     bool negative;
 
-    bool operator==(Books const&) const = default;
+    bool operator==(Representation const&) const = default;
 };
 
-inline std::ostream& operator<<(std::ostream& out, Books const& books) {
-    return out << "{size " << books.size << ", bound " << books.highestBit
-               << (books.negative ? ", flagged}" : "}");
+inline std::ostream& operator<<(std::ostream& out, Representation const& shown) {
+    return out << "{size " << shown.size << ", bound " << shown.highestBit
+               << (shown.negative ? ", flagged}" : "}");
 }
 
-inline Books books(LargeInteger const& v) {
+inline Representation representation(LargeInteger const& v) {
     return {LargeIntegerPeer::size(v), LargeIntegerPeer::highestBit(v),
             LargeIntegerPeer::negative(v)};
 }
 
-/// The value of a hexadecimal text, with exact books.
+/// The value of a hexadecimal text, with an exact bound.
 inline LargeInteger hex(std::string const& text) {
     LargeInteger v;
     v.parseString(text, 16);

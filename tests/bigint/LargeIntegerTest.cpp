@@ -18,7 +18,7 @@ using namespace bigint_test;
 
 TEST(Storage, ADefaultValueIsZeroInFourWordsAndAGuard) {
     LargeInteger const zero;
-    EXPECT_EQ(books(zero), (Books{4, -1, false}));
+    EXPECT_EQ(representation(zero), (Representation{4, -1, false}));
     for (int i = 0; i <= 4; ++i)
         EXPECT_EQ(LargeIntegerPeer::word(zero, i), 0U) << i;
     EXPECT_EQ(zero.getHighestBit(), -1);
@@ -53,7 +53,9 @@ TEST(Storage, MachineIntegersKeepTheirValueAndGetAnExactBound) {
     };
     for (Row const& row : rows) {
         EXPECT_EQ(row.value.toString(16), row.text);
-        EXPECT_EQ(books(row.value), (Books{4, row.highestBit, row.text[0] == '-'})) << row.text;
+        EXPECT_EQ(representation(row.value),
+                  (Representation{4, row.highestBit, row.text[0] == '-'}))
+            << row.text;
     }
 }
 
@@ -76,7 +78,7 @@ TEST(Storage, CopiesOperatorsAndTextPromiseNotToThrow) {
 TEST(Storage, ACopyIsSizedByTheCachedBoundButHasAnExactOne) {
     LargeInteger v(5);
     makeStale(v, 200);
-    EXPECT_EQ(books(LargeInteger(v)), (Books{7, 2, false}));
+    EXPECT_EQ(representation(LargeInteger(v)), (Representation{7, 2, false}));
     EXPECT_EQ(LargeInteger(v), LargeInteger(5));
 }
 
@@ -85,7 +87,7 @@ TEST(Storage, AnAssignedValueIsSizedByTheExactTop) {
     makeStale(v, 200);
     LargeInteger assigned(77);
     assigned = v;
-    EXPECT_EQ(books(assigned), (Books{4, 2, true}));
+    EXPECT_EQ(representation(assigned), (Representation{4, 2, true}));
     EXPECT_EQ(assigned, LargeInteger(-5));
 }
 
@@ -99,8 +101,8 @@ TEST(Storage, TightSizesGrowAtEveryWordAboveFour) {
         v.setBit(row.top);
         LargeInteger assigned;
         assigned = v;
-        EXPECT_EQ(books(LargeInteger(v)), (Books{row.size, row.top, false}));
-        EXPECT_EQ(books(assigned), (Books{row.size, row.top, false}));
+        EXPECT_EQ(representation(LargeInteger(v)), (Representation{row.size, row.top, false}));
+        EXPECT_EQ(representation(assigned), (Representation{row.size, row.top, false}));
         EXPECT_EQ(assigned, v);
     }
 }
@@ -120,7 +122,7 @@ TEST(Storage, SelfAssignmentLeavesEvenAStaleBound) {
     makeStale(v, 200);
     LargeInteger& same = v;
     v = same;
-    EXPECT_EQ(books(v), (Books{12, 200, false}));
+    EXPECT_EQ(representation(v), (Representation{12, 200, false}));
     EXPECT_EQ(v, LargeInteger(5));
 }
 
@@ -138,12 +140,12 @@ void expectMovesLikeCopies(LargeInteger const& value, bool stale, int words) {
     LargeInteger const fromConstructed(std::move(constructed));
     LargeInteger fromAssigned(1);
     fromAssigned = std::move(assigned);
-    EXPECT_EQ(books(fromConstructed), books(constructedCopy));
+    EXPECT_EQ(representation(fromConstructed), representation(constructedCopy));
     EXPECT_EQ(fromConstructed, value);
-    EXPECT_EQ(books(fromAssigned), books(assignedCopy));
+    EXPECT_EQ(representation(fromAssigned), representation(assignedCopy));
     EXPECT_EQ(fromAssigned, value);
     // What is left behind behaves as zero.
-    EXPECT_EQ(books(constructed).highestBit, -1);  // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(representation(constructed).highestBit, -1);  // NOLINT(bugprone-use-after-move)
     EXPECT_EQ(constructed + LargeInteger(5), LargeInteger(5));
     EXPECT_EQ(assigned + LargeInteger(5), LargeInteger(5));  // NOLINT(bugprone-use-after-move)
 }
@@ -175,8 +177,8 @@ TEST(Storage, SwapExchangesAllFourFields) {
     LargeInteger b(7);
     makeStale(b, 200);
     a.swapWith(b);
-    EXPECT_EQ(books(a), (Books{12, 200, false}));
-    EXPECT_EQ(books(b), (Books{4, 2, true}));
+    EXPECT_EQ(representation(a), (Representation{12, 200, false}));
+    EXPECT_EQ(representation(b), (Representation{4, 2, true}));
     EXPECT_EQ(a, LargeInteger(7));
     EXPECT_EQ(b, LargeInteger(-5));
     a.swapWith(a);
@@ -207,14 +209,14 @@ TEST(Storage, AValueOfUpTo288BitsIsKeptInTheObject) {
         EXPECT_EQ(moved, ofWidth(bits));
         EXPECT_EQ(assigned, moved);
         EXPECT_TRUE(LargeIntegerPeer::keepsLimbsInside(v));  // NOLINT(bugprone-use-after-move)
-        EXPECT_EQ(books(v), (Books{4, -1, false}));
+        EXPECT_EQ(representation(v), (Representation{4, -1, false}));
     }
 }
 
 TEST(Storage, GrowthMovesTheLimbsOutOfTheObject) {
     LargeInteger v = ofWidth(200);
     v.ensureSize(5);  // 7 < 7 is false: 10 words
-    EXPECT_EQ(books(v), (Books{10, 199, false}));
+    EXPECT_EQ(representation(v), (Representation{10, 199, false}));
     EXPECT_FALSE(LargeIntegerPeer::keepsLimbsInside(v));
     EXPECT_EQ(v, ofWidth(200));
     for (int i = 7; i < 10; ++i)
@@ -261,7 +263,7 @@ TEST(Storage, AssignmentGivesAnOversizedBufferBack) {
         ASSERT_EQ(LargeIntegerPeer::room(v), limbs);
         v = five;
         EXPECT_EQ(LargeIntegerPeer::keepsLimbsInside(v), limbs >= 24) << limbs;
-        EXPECT_EQ(books(v), (Books{4, 2, false}));
+        EXPECT_EQ(representation(v), (Representation{4, 2, false}));
         EXPECT_EQ(v, five);
         // What the buffer held before is not read again.
         v.ensureSize(50);
@@ -275,18 +277,18 @@ TEST(Storage, ClearReleasesBuffersOf17WordsAndKeepsSmallerOnes) {
     LargeInteger kept;
     kept.setBit(9 * 32);
     kept.setNegative(true);
-    ASSERT_EQ(books(kept), (Books{16, 288, true}));
+    ASSERT_EQ(representation(kept), (Representation{16, 288, true}));
     kept.clear();
-    EXPECT_EQ(books(kept), (Books{16, -1, false}));
+    EXPECT_EQ(representation(kept), (Representation{16, -1, false}));
     for (int i = 0; i <= 16; ++i)
         EXPECT_EQ(LargeIntegerPeer::word(kept, i), 0U) << i;
 
     LargeInteger grown;
     grown.setBit(16 * 32);
     LargeInteger released(grown);
-    ASSERT_EQ(books(released), (Books{17, 512, false}));
+    ASSERT_EQ(representation(released), (Representation{17, 512, false}));
     released.clear();
-    EXPECT_EQ(books(released), (Books{4, -1, false}));
+    EXPECT_EQ(representation(released), (Representation{4, -1, false}));
     for (int i = 0; i <= 4; ++i)
         EXPECT_EQ(LargeIntegerPeer::word(released, i), 0U) << i;
 }
@@ -300,7 +302,7 @@ TEST(Storage, EnsureSizeGrowsByHalfAgainOnceTwoSpareWordsAreGone) {
                           Row{6, 12}, Row{100, 153}, Row{101, 154}}) {
         LargeInteger v(-5);
         v.ensureSize(row.word);
-        EXPECT_EQ(books(v), (Books{row.size, 2, true})) << row.word;
+        EXPECT_EQ(representation(v), (Representation{row.size, 2, true})) << row.word;
         EXPECT_EQ(v, LargeInteger(-5));
         for (int i = 1; i < row.size; ++i)
             EXPECT_EQ(LargeIntegerPeer::word(v, i), 0U) << i;
@@ -311,20 +313,20 @@ TEST(Storage, EnsureSizeNeverShrinks) {
     LargeInteger v;
     v.ensureSize(100);
     v.ensureSize(2);
-    EXPECT_EQ(books(v).size, 153);
+    EXPECT_EQ(representation(v).size, 153);
     v.ensureSize(150);  // 152 < 153
-    EXPECT_EQ(books(v).size, 153);
+    EXPECT_EQ(representation(v).size, 153);
     v.ensureSize(151);
-    EXPECT_EQ(books(v).size, 229);
+    EXPECT_EQ(representation(v).size, 229);
 }
 
 TEST(Storage, SettingBit200GrowsTo12WordsAndClearingItLeavesTheBound) {
     LargeInteger v;
     v.setBit(200);
-    EXPECT_EQ(books(v), (Books{12, 200, false}));
+    EXPECT_EQ(representation(v), (Representation{12, 200, false}));
     EXPECT_EQ(v.getHighestBit(), 200);
     v.clearBit(200);
-    EXPECT_EQ(books(v), (Books{12, 200, false}));
+    EXPECT_EQ(representation(v), (Representation{12, 200, false}));
     EXPECT_EQ(v.getHighestBit(), -1);
     EXPECT_TRUE(v.isZero());
 }

@@ -96,7 +96,7 @@ TEST(GreatestCommonDivisor, OfTwoNegativesIsNegativeAndLeavesAPlainZero) {
     LargeInteger a(-12);
     LargeInteger b(-18);
     EXPECT_EQ(LargeInteger::simpleGCD(&a, &b), LargeInteger(-6));
-    EXPECT_EQ(books(a.isZero() ? a : b).negative, false);
+    EXPECT_EQ(representation(a.isZero() ? a : b).negative, false);
     EXPECT_EQ(LargeInteger(-12).findGreatestCommonDivisor(LargeInteger(-18)), LargeInteger(-6));
 }
 
@@ -111,7 +111,8 @@ TEST(GreatestCommonDivisor, OfNegativesFarApartHasTheSignOfTheSmallerOne) {
             slow = slow.findGreatestCommonDivisor(plain::LargeInteger(small));
             for (LargeInteger const& fast : {gcd(multiple, divisor), gcd(divisor, multiple)}) {
                 EXPECT_EQ(fast, divisor) << large << ' ' << small << ' ' << apart;
-                EXPECT_EQ(books(fast), (Books{slow.size, slow.highestBit, slow.negative}));
+                EXPECT_EQ(representation(fast),
+                          (Representation{slow.size, slow.highestBit, slow.negative}));
             }
         }
     }
@@ -125,10 +126,10 @@ TEST(GreatestCommonDivisor, LeavesTheObjectAndMayTakeItAsOperand) {
 }
 
 TEST(GreatestCommonDivisor, IsReturnedWithAnExactBound) {
-    EXPECT_EQ(books(gcd(powerOfTwo(200), powerOfTwo(199))).highestBit, 199);
+    EXPECT_EQ(representation(gcd(powerOfTwo(200), powerOfTwo(199))).highestBit, 199);
     LargeInteger stale(7);
     makeStale(stale, 200);
-    EXPECT_EQ(books(gcd(stale, LargeInteger(0))).highestBit, 2);
+    EXPECT_EQ(representation(gcd(stale, LargeInteger(0))).highestBit, 2);
 }
 
 TEST(Inverse, OfDocumentedExamples) {
@@ -152,7 +153,8 @@ TEST(Inverse, OfEveryOddCoprimeValue) {
 }
 
 TEST(Inverse, OfAnEvenValueIsRefusedEvenWhereItExists) {
-    EXPECT_EQ(books(inverse(LargeInteger(4), LargeInteger(7))), (Books{4, -1, false}));
+    EXPECT_EQ(representation(inverse(LargeInteger(4), LargeInteger(7))),
+              (Representation{4, -1, false}));
     EXPECT_TRUE(inverse(LargeInteger(9), LargeInteger(7)).isZero());  // 2 once reduced
     EXPECT_TRUE(inverse(LargeInteger(0), LargeInteger(7)).isZero());
     EXPECT_TRUE(inverse(LargeInteger(14), LargeInteger(7)).isZero());
@@ -169,7 +171,7 @@ TEST(Inverse, ModuloOneZeroOrANegativeIsZero) {
 TEST(Inverse, RefusalsReleaseALargeBuffer) {
     LargeInteger even = powerOfTwo(600);
     even.inverseModulo(powerOfTwo(601));
-    EXPECT_EQ(books(even), (Books{4, -1, false}));
+    EXPECT_EQ(representation(even), (Representation{4, -1, false}));
 }
 
 TEST(Inverse, OfANegativeValueWhereTheRemaindersReachOne) {
@@ -193,7 +195,7 @@ TEST(Inverse, OfAWideModulus) {
     EXPECT_EQ(inverse(e, m) * e % m, LargeInteger(1));
 }
 
-/// Compares the inverse with the plain steps', and all books.
+/// Compares the inverse with the plain steps', and all other fields.
 void expectPlainInverse(LargeInteger const& value, LargeInteger const& m) {
     LargeInteger fast(value);
     fast.inverseModulo(m);
@@ -203,7 +205,7 @@ void expectPlainInverse(LargeInteger const& value, LargeInteger const& m) {
     modulus.parseString(m.toString(16), 16);
     slow.inverseModulo(modulus);
     EXPECT_EQ(fast.toString(16), slow.toString(16)) << value.toString(16) << " " << m.toString(16);
-    EXPECT_EQ(books(fast), (Books{slow.size, slow.highestBit, slow.negative}))
+    EXPECT_EQ(representation(fast), (Representation{slow.size, slow.highestBit, slow.negative}))
         << value.toString(16) << " " << m.toString(16);
 }
 
@@ -290,17 +292,17 @@ TEST(Power, AnOperandMayBeTheObjectItself) {
 TEST(Power, AnExponentCongruentToZeroGivesAFreshOne) {
     LargeInteger v = powerOfTwo(600);
     v.exponentModulo(LargeInteger(0), LargeInteger(7));
-    EXPECT_EQ(books(v), (Books{4, 0, false}));
+    EXPECT_EQ(representation(v), (Representation{4, 0, false}));
 }
 
 TEST(Power, LeavesTheBoundOfTheLastProduct) {
     LargeInteger v(5);
     v.exponentModulo(LargeInteger(1), LargeInteger(7));
-    EXPECT_EQ(books(v).highestBit, 2);
+    EXPECT_EQ(representation(v).highestBit, 2);
     LargeInteger w(5);
     w.exponentModulo(LargeInteger(3), LargeInteger(7));  // 5 * (25 mod 7) = 20, reduced to 6
     EXPECT_EQ(w, LargeInteger(6));
-    EXPECT_EQ(books(w).highestBit, 4);
+    EXPECT_EQ(representation(w).highestBit, 4);
 }
 
 }  // namespace

@@ -12,10 +12,10 @@ namespace bigint_test {
 
 /// Empty when all four fields agree, and all words up to the capacity.
 inline std::string difference(LargeInteger const& fast, plain::LargeInteger const& plain) {
-    Books const model{plain.size, plain.highestBit, plain.negative};
+    Representation const model{plain.size, plain.highestBit, plain.negative};
     std::ostringstream text;
-    if (!(books(fast) == model)) {
-        text << "books " << books(fast) << ", not " << model;
+    if (!(representation(fast) == model)) {
+        text << "representation " << representation(fast) << ", not " << model;
         return text.str();
     }
     for (int i = 0; i < plain.size; ++i) {

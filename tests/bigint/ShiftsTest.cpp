@@ -36,12 +36,12 @@ TEST(Shifts, RightRoundsTowardZero) {
 TEST(Shifts, ShiftingEveryBitOutGivesAPlainZero) {
     LargeInteger v(-1);
     v >>= 1;
-    EXPECT_EQ(books(v), (Books{4, -1, false}));
+    EXPECT_EQ(representation(v), (Representation{4, -1, false}));
     LargeInteger wide = -powerOfTwo(600);
     wide >>= 601;
-    EXPECT_EQ(books(wide), (Books{4, -1, false}));
+    EXPECT_EQ(representation(wide), (Representation{4, -1, false}));
     EXPECT_EQ(-powerOfTwo(600) >> 600, LargeInteger(-1));
-    EXPECT_EQ(books(LargeInteger(-1) >> INT_MAX), (Books{4, -1, false}));
+    EXPECT_EQ(representation(LargeInteger(-1) >> INT_MAX), (Representation{4, -1, false}));
 }
 
 TEST(Shifts, OneLeftBy32HasHighestBit32) {
@@ -65,7 +65,8 @@ TEST(Shifts, ZeroStaysUntouchedWithItsFlag) {
         for (int from : {0, 3}) {
             LargeInteger zero = negativeZero();
             zero.shiftBits(count, from);
-            EXPECT_EQ(books(zero), (Books{4, -1, true})) << count << " from " << from;
+            EXPECT_EQ(representation(zero), (Representation{4, -1, true}))
+                << count << " from " << from;
         }
     }
 }
@@ -76,7 +77,7 @@ TEST(Shifts, ACountOfZeroChangesNothingNotEvenTheBound) {
     v.shiftBits(0, 0);
     v.shiftBits(0, 4);
     v <<= 0;
-    EXPECT_EQ(books(v).highestBit, 100);
+    EXPECT_EQ(representation(v).highestBit, 100);
     EXPECT_EQ(v, LargeInteger(5));
 }
 
@@ -89,7 +90,7 @@ TEST(Shifts, LeftGrowsForTheWordAboveTheNewTop) {
     for (Row const row : {Row{31, 4}, Row{32, 6}, Row{64, 7}, Row{95, 7}, Row{96, 9}}) {
         LargeInteger v(1);
         v <<= row.count;
-        EXPECT_EQ(books(v), (Books{row.size, row.count, false}));
+        EXPECT_EQ(representation(v), (Representation{row.size, row.count, false}));
     }
 }
 
@@ -97,7 +98,7 @@ TEST(Shifts, AFlaggedValueBelowItsBoundKeepsItsFlagWhenShiftedToZero) {
     LargeInteger v(-1);
     makeStale(v, 40);
     v >>= 20;  // within the bound: the general path, which keeps the flag
-    EXPECT_EQ(books(v).highestBit, -1);
+    EXPECT_EQ(representation(v).highestBit, -1);
     EXPECT_TRUE(LargeIntegerPeer::negative(v));
     EXPECT_EQ(v + LargeInteger(5), LargeInteger(-5));
 }
@@ -105,7 +106,7 @@ TEST(Shifts, AFlaggedValueBelowItsBoundKeepsItsFlagWhenShiftedToZero) {
 TEST(Shifts, TheOperatorShiftsACopySoTheBoundIsExactAndTheFlagGoes) {
     LargeInteger v(-1);
     makeStale(v, 40);
-    EXPECT_EQ(books(v >> 20), (Books{4, -1, false}));
+    EXPECT_EQ(representation(v >> 20), (Representation{4, -1, false}));
     EXPECT_EQ((v >> 20) + LargeInteger(5), LargeInteger(5));
 }
 
@@ -113,12 +114,12 @@ TEST(Shifts, AStaleBoundIsMadeExact) {
     LargeInteger left(5);
     makeStale(left, 100);
     left <<= 3;
-    EXPECT_EQ(books(left).highestBit, 5);
+    EXPECT_EQ(representation(left).highestBit, 5);
     EXPECT_EQ(left, LargeInteger(40));
     LargeInteger right(5);
     makeStale(right, 100);
     right >>= 1;
-    EXPECT_EQ(books(right).highestBit, 1);
+    EXPECT_EQ(representation(right).highestBit, 1);
 }
 
 TEST(Shifts, APartialLeftShiftKeepsTheBitsBelow) {
@@ -135,17 +136,17 @@ TEST(Shifts, APartialRightShiftDropsTheBitsAtThePosition) {
     v.shiftBits(-2, 3);
     // Bits 3 and 4 (10) go; 110 moves down to position 3.
     EXPECT_EQ(v.toString(2), "110110");
-    EXPECT_EQ(books(v).highestBit, 5);
+    EXPECT_EQ(representation(v).highestBit, 5);
 }
 
 TEST(Shifts, PartialShiftsFollowTheBoundNotTheTop) {
     LargeInteger left = binary("1001");
     left.clearBit(3);
     left.shiftBits(4, 1);
-    EXPECT_EQ(books(left).highestBit, 3);  // nothing set moved, nothing was rescanned
+    EXPECT_EQ(representation(left).highestBit, 3);  // nothing set moved, nothing was rescanned
     LargeInteger right = binary("1001");
     right.shiftBits(-3, 1);
-    EXPECT_EQ(books(right).highestBit, 0);
+    EXPECT_EQ(representation(right).highestBit, 0);
 }
 
 TEST(Shifts, InsertBitOpensAGap) {

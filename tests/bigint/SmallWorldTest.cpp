@@ -34,7 +34,8 @@ std::ostream& operator<<(std::ostream& out, Operand const& operand) {
                << operand.stale;
 }
 
-/// An operand as the library's value and as the model's. Made in place: a copy has other books.
+/// An operand as the library's value and as the model's. Made in place: a copy has another
+/// capacity.
 struct Twin {
     LargeInteger fast;
     plain::LargeInteger plain;

@@ -113,17 +113,17 @@ TEST(Text, ReadingStopsAtAZeroByte) {
 TEST(Text, ReadingReplacesTheValueAndReleasesALargeBuffer) {
     LargeInteger v = -powerOfTwo(600);
     v.parseString("f", 16);
-    EXPECT_EQ(books(v), (Books{4, 3, false}));
+    EXPECT_EQ(representation(v), (Representation{4, 3, false}));
     LargeInteger small;
     small.ensureSize(9);
     small.parseString("f", 16);
-    EXPECT_EQ(books(small), (Books{16, 3, false}));
+    EXPECT_EQ(representation(small), (Representation{16, 3, false}));
 }
 
 TEST(Text, ReadingGrowsDigitByDigit) {
     // The 8th hexadecimal digit makes bound 31; adding it visits word 2: six words.
-    EXPECT_EQ(books(parse("fffffff", 16)), (Books{4, 27, false}));
-    EXPECT_EQ(books(parse("ffffffff", 16)), (Books{6, 31, false}));
+    EXPECT_EQ(representation(parse("fffffff", 16)), (Representation{4, 27, false}));
+    EXPECT_EQ(representation(parse("ffffffff", 16)), (Representation{6, 31, false}));
 }
 
 TEST(Text, ReadingTakesTheDigitsThatTheTextFunctionsTake) {
@@ -172,15 +172,15 @@ TEST(Text, LeadingZerosAreDigitsThatLeaveAZero) {
 TEST(Text, ReadingZerosReplacesTheBufferInRadixTenOnly) {
     LargeInteger wide;
     wide.ensureSize(6);
-    ASSERT_EQ(books(wide), (Books{12, -1, false}));
+    ASSERT_EQ(representation(wide), (Representation{12, -1, false}));
     for (int radix : {2, 8, 16}) {
         wide.parseString("000", radix);
-        EXPECT_EQ(books(wide), (Books{12, -1, false})) << radix;
+        EXPECT_EQ(representation(wide), (Representation{12, -1, false})) << radix;
     }
     wide.parseString("no digit", 10);
-    EXPECT_EQ(books(wide), (Books{12, -1, false}));
+    EXPECT_EQ(representation(wide), (Representation{12, -1, false}));
     wide.parseString("000", 10);
-    EXPECT_EQ(books(wide), (Books{4, -1, false}));
+    EXPECT_EQ(representation(wide), (Representation{4, -1, false}));
 }
 
 TEST(Text, ReadingGrowsAsThePlainStepsDoAtEveryLength) {
@@ -260,7 +260,7 @@ TEST(Text, DoesNotChangeTheValueWritten) {
     makeStale(v, 100);
     (void)v.toString(10);
     (void)v.toString(16);
-    EXPECT_EQ(books(v).highestBit, 100);
+    EXPECT_EQ(representation(v).highestBit, 100);
     EXPECT_EQ(v, LargeInteger(-5));
 }
 

@@ -1,4 +1,4 @@
-// The same numbers twice, as the library's and as the plain model's integers, with values and books
+// The same numbers twice, as the library's and as the plain model's integers, with representations
 // of many kinds.
 #pragma once
 
@@ -26,7 +26,7 @@ inline std::string label(char const* word, int number) {
 }
 
 inline std::string describe(Twin const& twin) {
-    Books const model{twin.plain.size, twin.plain.highestBit, twin.plain.negative};
+    Representation const model{twin.plain.size, twin.plain.highestBit, twin.plain.negative};
     std::ostringstream text;
     text << "0x" << twin.plain.toString(16) << ' ' << model;
     return text.str();
@@ -72,7 +72,7 @@ inline unsigned patternWord(Choices& choices, int pattern) {
     }
 }
 
-/// Both halves of a twin get the same calls, so that the books start equal too.
+/// Both halves of a twin get the same calls, so that their representations start equal too.
 template <typename Operation>
 void both(Twin& twin, Operation operation) {
     operation(twin.fast);

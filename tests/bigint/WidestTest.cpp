@@ -86,7 +86,7 @@ TEST(Widest, BitsAtTheVeryEndAreWrittenMovedAndRead) {
     v.setRange(INT_MAX - 10, INT_MAX, false);
     EXPECT_TRUE(v.isZero());
     v.clear();
-    EXPECT_EQ(books(v), (Books{4, -1, false}));
+    EXPECT_EQ(representation(v), (Representation{4, -1, false}));
 }
 
 TEST(Widest, RemaindersPowersAndShiftsAreExact) {

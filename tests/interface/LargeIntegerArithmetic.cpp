@@ -36,7 +36,7 @@ std::vector<Function> sumsAndProducts() {
 /// A value whose bound is -1 stays as it is; any other, a zero too, grows by as many bits: of 2^31
 /// bits it has 256 MB.
 bool growsLittle(qel::LargeInteger const& x, long long count) {
-    return count <= 65536 || bigint_test::books(x).highestBit < 0;
+    return count <= 65536 || bigint_test::representation(x).highestBit < 0;
 }
 
 std::vector<Function> shifts() {

@@ -13,8 +13,8 @@ using qel::LargeInteger;
 /// Becomes zero as the model has it: of a value that was moved from nothing else is documented.
 void expectPlainZero(LargeInteger& moved) {
     EXPECT_TRUE(moved.isZero());
-    EXPECT_EQ(bigint_test::books(moved).highestBit, -1);
-    EXPECT_FALSE(bigint_test::books(moved).negative);
+    EXPECT_EQ(bigint_test::representation(moved).highestBit, -1);
+    EXPECT_FALSE(bigint_test::representation(moved).negative);
     moved = LargeInteger();
 }
 

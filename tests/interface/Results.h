@@ -74,11 +74,11 @@ class Results {
     void write(qel::Date const& date) { out_ << date.GetMillisecondsSinceEpoch(); }
     void write(qel::RSAKey const& key) { write(key.toString()); }
     void write(qel::LargeInteger const& value) {
-        bigint_test::Books const books = bigint_test::books(value);
-        if (books.size <= wordsInFull)
-            out_ << "0x" << value.toString(16) << ' ' << books;
+        bigint_test::Representation const shown = bigint_test::representation(value);
+        if (shown.size <= wordsInFull)
+            out_ << "0x" << value.toString(16) << ' ' << shown;
         else
-            out_ << std::hex << sumOf(value) << std::dec << ' ' << books;
+            out_ << std::hex << sumOf(value) << std::dec << ' ' << shown;
     }
     /// Wider values are written as a sum of their words.
     static constexpr int wordsInFull = 100;

@@ -9,7 +9,7 @@ namespace qel::limbs {
 ///
 /// With 2^top the highest bit of e, highest = base^(2^top) and lower = base^(e - 2^top), both
 /// reduced; lower is 1 when e = 2^top, and the result then is highest. The product's length is one
-/// of the books that LargeInteger keeps, and this is why it wants the factors.
+/// of the representation that LargeInteger keeps, and this is why it wants the factors.
 ///
 /// @param modulus above 1, `count` limbs, the highest not zero; an odd one is faster
 /// @param base `count` limbs, below the modulus
